@@ -1,0 +1,65 @@
+// The one way errors travel: inside the module they are thrown, at the COM boundary `Guard` turns them into
+// an HRESULT and an IErrorInfo with a readable text, which scripts show.
+#pragma once
+
+#include <windows.h>
+#include <oleauto.h>
+
+#include <exception>
+#include <string>
+#include <type_traits>
+#include <utility>
+
+namespace qz {
+
+/// An error on its way to the boundary. The text is for the developer who calls the component.
+struct ComError : std::exception {
+    ComError(HRESULT code, std::wstring text) : code(code), text(std::move(text)) {}
+    const char* what() const noexcept override { return "COM error"; }
+
+    HRESULT code;
+    std::wstring text;
+};
+
+/// Throws a ComError. An empty text is replaced by the system's own text for the code.
+[[noreturn]] void Throw(HRESULT code, std::wstring text = {});
+
+/// Throws when `code` is a failure. `text` says what was attempted; the system's text is appended.
+inline void ThrowIfFailed(HRESULT code, const wchar_t* text = nullptr) {
+    if (FAILED(code)) Throw(code, text ? text : L"");
+}
+
+/// Throws E_POINTER when an argument that must not be null is null.
+void RequirePointer(const void* pointer);
+
+/// Throws the last Windows error when `succeeded` is false.
+void ThrowLastErrorIf(bool failed, const wchar_t* text);
+
+/// The system's text for an HRESULT, without a trailing line break.
+std::wstring DescribeError(HRESULT code);
+
+/// Sets the thread's IErrorInfo, naming `iid` as the interface that failed. Never throws.
+void SetErrorText(REFIID iid, const std::wstring& text) noexcept;
+
+/// To be called inside a catch block: the HRESULT for the exception in flight; sets IErrorInfo.
+HRESULT TurnException(REFIID iid) noexcept;
+
+/// Runs a member's body (returning void or an HRESULT) and lets no exception pass. Every failure leaves an
+/// IErrorInfo behind.
+template <class Body>
+HRESULT Guard(REFIID iid, Body&& body) noexcept {
+    try {
+        if constexpr (std::is_void_v<std::invoke_result_t<Body>>) {
+            std::forward<Body>(body)();
+            return S_OK;
+        } else {
+            const HRESULT result = std::forward<Body>(body)();
+            if (FAILED(result)) SetErrorText(iid, DescribeError(result));
+            return result;
+        }
+    } catch (...) {
+        return TurnException(iid);
+    }
+}
+
+}  // namespace qz

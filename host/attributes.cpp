@@ -1,0 +1,42 @@
+#include "host/attributes.h"
+
+namespace qz {
+
+namespace {
+
+std::wstring Quoted(BSTR path, BSTR attribute) {
+    return L"the attribute \"" + std::wstring(attribute) + L"\" of \"" + std::wstring(path) + L"\"";
+}
+
+}  // namespace
+
+_variant_t ReadAttribute(IVandraX* host, BSTR path, BSTR attribute) {
+    _variant_t value;
+    const HRESULT result = host->GetObjectAttribute(path, attribute, &value);
+    if (FAILED(result)) Throw(result, L"The host does not tell " + Quoted(path, attribute));
+    return value;
+}
+
+_variant_t ReadAttribute(IVandraX* host, std::wstring_view path, std::wstring_view attribute) {
+    return ReadAttribute(host, Bstr(path).Get(), Bstr(attribute).Get());
+}
+
+void WriteAttribute(IVandraX* host, std::wstring_view path, std::wstring_view attribute,
+                    const _variant_t& value) {
+    const Bstr pathText(path);
+    const Bstr attributeText(attribute);
+    const HRESULT result = host->SetObjectAttribute(pathText.Get(), attributeText.Get(), value);
+    if (FAILED(result)) {
+        Throw(result, L"The host refuses to set " + Quoted(pathText.Get(), attributeText.Get()));
+    }
+}
+
+long ToLong(const VARIANT& value) {
+    if (value.vt == VT_I4) return value.lVal;
+    _variant_t number;
+    ThrowIfFailed(VariantChangeType(&number, const_cast<VARIANT*>(&value), 0, VT_I4),  // only reads it
+                  L"A value of the host is not a number");
+    return number.lVal;
+}
+
+}  // namespace qz

@@ -1,0 +1,26 @@
+// Reading and writing the attributes of host objects by path and name.
+#pragma once
+
+#include "host/bstr.h"
+
+#include "generated/vandra_x.h"
+
+#include <comdef.h>
+
+#include <string_view>
+
+namespace qz {
+
+/// The value of an attribute. Throws the host's failure.
+_variant_t ReadAttribute(IVandraX* host, BSTR path, BSTR attribute);
+_variant_t ReadAttribute(IVandraX* host, std::wstring_view path, std::wstring_view attribute);
+
+/// Writes an attribute. Throws the host's failure.
+void WriteAttribute(IVandraX* host, std::wstring_view path, std::wstring_view attribute,
+                    const _variant_t& value);
+
+/// A value of any numeric type, or a text that spells a number, as a 32-bit integer; DISP_E_TYPEMISMATCH or
+/// DISP_E_OVERFLOW is thrown for anything else.
+long ToLong(const VARIANT& value);
+
+}  // namespace qz
