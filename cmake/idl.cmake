@@ -22,9 +22,10 @@ function(qz_add_idl target idl)
         set(commands COMMAND ${widl} -h -o ${base}.h ${source} COMMAND ${widl} -u -o ${base}_i.c ${source}
                      COMMAND ${widl} -t -o ${base}.tlb ${source})
     else()
-        set(commands COMMAND midl /nologo /x64 /h ${base}.h /iid ${base}_i.c /tlb ${base}.tlb ${source})
+        set(commands COMMAND midl /nologo /x64 /I ${CMAKE_SOURCE_DIR} /h ${base}.h /iid ${base}_i.c /tlb ${base}.tlb ${source})
     endif()
-    add_custom_command(OUTPUT ${outputs} ${commands} DEPENDS ${source} VERBATIM)
+    # widl looks for imported files from where it runs.
+    add_custom_command(OUTPUT ${outputs} ${commands} DEPENDS ${source} WORKING_DIRECTORY ${CMAKE_SOURCE_DIR} VERBATIM)
     add_custom_target(${target}_files DEPENDS ${outputs})
     # The ids are compiled once; users link the target and include the header.
     add_library(${target} STATIC ${base}_i.c)

@@ -66,6 +66,11 @@ void FireEvent(ConnectionPoint& point, DISPID id, std::initializer_list<VARIANT>
 /// Base of an object with connection points, which it lists in `Points()`.
 class ConnectionPointContainer : public IConnectionPointContainer {
   public:
+    static void* FindInterface(ConnectionPointContainer* self, REFIID iid) noexcept {
+        return iid == __uuidof(IConnectionPointContainer) ? static_cast<IConnectionPointContainer*>(self)
+                                                          : nullptr;
+    }
+
     STDMETHODIMP EnumConnectionPoints(IEnumConnectionPoints** result) override;
     /// CONNECT_E_NOCONNECTION when the object has no such outgoing interface.
     STDMETHODIMP FindConnectionPoint(REFIID iid, IConnectionPoint** result) override;

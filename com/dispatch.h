@@ -41,8 +41,11 @@ class Dispatch : public I {
             // The members set IErrorInfo themselves, and the type info carries it into `exception`; a guard
             // here would overwrite it.
             const ComPtr<I> alive = this;
-            return Info()->Invoke(static_cast<I*>(this), id, flags, parameters, result, exception,
-                                  badArgument);
+            const HRESULT answer =
+                Info()->Invoke(static_cast<I*>(this), id, flags, parameters, result, exception, badArgument);
+            // Script languages have no unsigned numbers: a colour reaches them as a long of the same bits.
+            if (SUCCEEDED(answer) && result && result->vt == VT_UI4) result->vt = VT_I4;
+            return answer;
         } catch (...) {
             return TurnException(__uuidof(I));
         }

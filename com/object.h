@@ -99,7 +99,8 @@ class Object : public Interfaces..., public ISupportErrorInfo {
 template <class T, class... Arguments>
 ComPtr<T> MakeObject(Arguments&&... arguments) {
     ComPtr<T> object;
-    object.Attach(new T(std::forward<Arguments>(arguments)...));
+    // Not by Attach, which counts a reference of its own in one of the toolchains.
+    *object.GetAddressOf() = new T(std::forward<Arguments>(arguments)...);
     return object;
 }
 

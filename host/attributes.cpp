@@ -10,15 +10,16 @@ std::wstring Quoted(BSTR path, BSTR attribute) {
 
 }  // namespace
 
-_variant_t ReadAttribute(IVandraX* host, BSTR path, BSTR attribute) {
+_variant_t ReadAttribute(IVandraX* host, std::wstring_view path, std::wstring_view attribute) {
     _variant_t value;
-    const HRESULT result = host->GetObjectAttribute(path, attribute, &value);
-    if (FAILED(result)) Throw(result, L"The host does not tell " + Quoted(path, attribute));
+    ReadAttribute(host, Bstr(path).Get(), Bstr(attribute).Get(), value);
     return value;
 }
 
-_variant_t ReadAttribute(IVandraX* host, std::wstring_view path, std::wstring_view attribute) {
-    return ReadAttribute(host, Bstr(path).Get(), Bstr(attribute).Get());
+void ReadAttribute(IVandraX* host, BSTR path, BSTR attribute, _variant_t& value) {
+    value.Clear();
+    const HRESULT result = host->GetObjectAttribute(path, attribute, &value);
+    if (FAILED(result)) Throw(result, L"The host does not tell " + Quoted(path, attribute));
 }
 
 void WriteAttribute(IVandraX* host, std::wstring_view path, std::wstring_view attribute,

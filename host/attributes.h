@@ -12,8 +12,11 @@
 namespace qz {
 
 /// The value of an attribute. Throws the host's failure.
-_variant_t ReadAttribute(IVandraX* host, BSTR path, BSTR attribute);
 _variant_t ReadAttribute(IVandraX* host, std::wstring_view path, std::wstring_view attribute);
+
+/// The same in bulk: the texts are made beforehand, and `value` serves one attribute after the other. When
+/// this throws, it holds nothing of use.
+void ReadAttribute(IVandraX* host, BSTR path, BSTR attribute, _variant_t& value);
 
 /// Writes an attribute. Throws the host's failure.
 void WriteAttribute(IVandraX* host, std::wstring_view path, std::wstring_view attribute,

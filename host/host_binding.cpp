@@ -26,6 +26,10 @@ ComPtr<IConnectionPoint> QueryEvents(IVandraX* host) {
 
 }  // namespace
 
+HostBinding::HostBinding(HostListener& listener) noexcept : listener_(listener) {}
+
+HostBinding::~HostBinding() { Detach(); }
+
 void HostBinding::Attach(IDispatch* candidate) {
     const ComPtr<IVandraX> host = QueryHost(candidate);
     const ComPtr<IConnectionPoint> events = QueryEvents(host.Get());

@@ -24,8 +24,8 @@ class HostListener {
 /// A component's attachment to a host. Apartment-threaded. The listener outlives the binding.
 class HostBinding {
   public:
-    explicit HostBinding(HostListener& listener) noexcept : listener_(listener) {}
-    ~HostBinding() { Detach(); }
+    explicit HostBinding(HostListener& listener) noexcept;
+    ~HostBinding();
     HostBinding(const HostBinding&) = delete;
     HostBinding& operator=(const HostBinding&) = delete;
 

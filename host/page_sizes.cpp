@@ -35,12 +35,16 @@ void ReadPageSizes(IVandraX* host, std::int32_t count, const std::function<void(
     const Bstr length(L"Length");
     const Bstr landscape(L"Landscape");
     PagePathText path;
+    _variant_t value;
     for (std::int32_t page = 1; page <= count; ++page) {
         const BSTR pagePath = path.For(page);
-        const PageSize size{ToLong(ReadAttribute(host, pagePath, width.Get())),
-                            ToLong(ReadAttribute(host, pagePath, length.Get()))};
+        const auto read = [&](const Bstr& attribute) -> const VARIANT& {
+            ReadAttribute(host, pagePath, attribute.Get(), value);
+            return value;
+        };
+        const PageSize size{ToLong(read(width)), ToLong(read(length))};
         // The size is told as the page lies; that the orientation can be read is all that is asked of it.
-        ReadAttribute(host, pagePath, landscape.Get());
+        read(landscape);
         take(size);
     }
     WriteAttribute(host, documentPath, noContents, _variant_t(false));

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "com/object.h"
+#include "host/page_size.h"
 
 #include "generated/vandra_x.h"
 
@@ -9,12 +10,6 @@
 #include <functional>
 
 namespace qz {
-
-/// A page's size in twips, as the host tells it: any value may come.
-struct PageSize {
-    std::int32_t width;
-    std::int32_t length;
-};
 
 /// Calls `take` with the size of page 1, 2, ... `count`. The document is told before and after that page
 /// contents are not needed. Throws the first failure at once; the document then stays told, and the sizes

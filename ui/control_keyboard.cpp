@@ -1,0 +1,74 @@
+// Focus and the keyboard: who gets a key, the control or its container.
+#include "ui/control.h"
+
+namespace qz {
+
+namespace {
+
+bool IsKeyMessage(UINT message) noexcept { return message >= WM_KEYFIRST && message <= WM_KEYLAST; }
+
+/// Key messages that name a key, not a character.
+bool NamesKey(UINT message) noexcept {
+    return message == WM_KEYDOWN || message == WM_KEYUP || message == WM_SYSKEYDOWN || message == WM_SYSKEYUP;
+}
+
+/// The modifier keys as IOleControlSite::TranslateAccelerator wants them.
+constexpr DWORD shiftDown = 1;
+constexpr DWORD controlDown = 2;
+constexpr DWORD altDown = 4;
+
+DWORD Modifiers() noexcept {
+    const auto down = [](int key) { return GetKeyState(key) < 0; };
+    return (down(VK_SHIFT) ? shiftDown : 0u) | (down(VK_CONTROL) ? controlDown : 0u) |
+           (down(VK_MENU) ? altDown : 0u);
+}
+
+}  // namespace
+
+bool Control::IsInputKey(const MSG&) const { return false; }
+
+bool Control::Owns(HWND window) const noexcept {
+    const HWND own = window_.Handle();
+    return own && window && (window == own || IsChild(own, window));
+}
+
+bool Control::Keeps(const MSG& message) const {
+    return NamesKey(message.message) && message.wParam != VK_TAB && IsInputKey(message);
+}
+
+STDMETHODIMP Control::TranslateAccelerator(LPMSG message) {
+    return Run(IID_IOleInPlaceActiveObject, [&]() -> HRESULT {
+        RequirePointer(message);
+        if (!uiActive_ || !IsKeyMessage(message->message)) return S_FALSE;
+        if (Owns(message->hwnd) && Keeps(*message)) {
+            MSG own = *message;
+            TranslateMessage(&own);
+            DispatchMessageW(&own);
+            return S_OK;
+        }
+        ComPtr<IOleControlSite> site;
+        if (!site_ || FAILED(site_.As(&site))) return S_FALSE;
+        return site->TranslateAccelerator(message, Modifiers()) == S_OK ? S_OK : S_FALSE;
+    });
+}
+
+void Control::TakeFocus() noexcept {
+    if (window_.Handle() && !Owns(GetFocus())) SetFocus(window_.Handle());
+}
+
+void Control::TellFocus(bool has) noexcept {
+    ComPtr<IOleControlSite> site;
+    if (site_ && SUCCEEDED(site_.As(&site))) site->OnFocus(has);
+}
+
+/// What a dialog that hosts the control shall leave to it.
+std::optional<LRESULT> Control::DialogCode(const MSG* message) const {
+    if (message) return Keeps(*message) ? DLGC_WANTMESSAGE : 0;
+    MSG arrow{};
+    arrow.hwnd = window_.Handle();
+    arrow.message = WM_KEYDOWN;
+    arrow.wParam = VK_DOWN;
+    return Keeps(arrow) ? DLGC_WANTARROWS : 0;
+}
+
+}  // namespace qz
