@@ -1,0 +1,50 @@
+#include "panes/thumbnails/thumbnail_model.h"
+
+#include <utility>
+
+namespace qz {
+
+void ThumbnailModel::SetRecords(std::vector<ThumbnailRecord> records) {
+    records_ = std::move(records);
+    current_.reset();
+    ++generation_;
+    Arrange();
+}
+
+void ThumbnailModel::SetClientSize(std::int32_t width, std::int32_t height) {
+    clientWidth_ = width;
+    clientHeight_ = height;
+    Arrange();
+}
+
+void ThumbnailModel::Arrange() {
+    layout_.Arrange(records_, clientWidth_);
+    ScrollTo(scrollPosition_);
+}
+
+bool ThumbnailModel::ScrollTo(std::int64_t position) {
+    const std::int32_t clamped = Limits().Clamp(position);
+    return std::exchange(scrollPosition_, clamped) != clamped;
+}
+
+bool ThumbnailModel::ScrollIntoView(std::size_t index) {
+    const ThumbnailRecord& record = records_.at(index);
+    return ScrollTo(ScrolledIntoView(scrollPosition_, record.y, record.height, Limits()));
+}
+
+void ThumbnailModel::MakeCurrent(std::optional<std::size_t> index) {
+    if (current_) records_.at(*current_).flags &= static_cast<std::uint8_t>(~thumbnailCurrent);
+    current_ = index && *index < records_.size() ? index : std::nullopt;
+    if (current_) records_[*current_].flags |= thumbnailCurrent;
+}
+
+std::optional<std::size_t> ThumbnailModel::HitTest(std::int32_t clientX, std::int32_t clientY) const {
+    return layout_.HitTest(records_, clientX, std::int64_t{clientY} + scrollPosition_);
+}
+
+IndexRange ThumbnailModel::VisibleIn(std::int32_t top, std::int32_t bottom) const {
+    const std::int64_t shift = std::int64_t{scrollPosition_} - drawMargin;
+    return layout_.RecordsIn(top + shift - frameReach, bottom + shift + frameReach);
+}
+
+}  // namespace qz

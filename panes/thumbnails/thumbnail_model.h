@@ -1,0 +1,66 @@
+// The pane's pages: their records, where they lie, what is scrolled to and which is current.
+#pragma once
+
+#include "panes/thumbnails/thumbnail_layout.h"
+#include "panes/thumbnails/thumbnail_scroll.h"
+
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <vector>
+
+namespace qz {
+
+/// Pure state; the control asks it what to draw and where to scroll. Indexes are zero-based.
+class ThumbnailModel {
+  public:
+    /// Takes new records and places them. Selection and current page are forgotten; the scroll position
+    /// stays, within its limits.
+    void SetRecords(std::vector<ThumbnailRecord> records);
+
+    /// Places the records anew for a client area of that size.
+    void SetClientSize(std::int32_t width, std::int32_t height);
+
+    std::span<const ThumbnailRecord> Records() const noexcept { return records_; }
+    std::int32_t ContentHeight() const noexcept { return layout_.ContentHeight(); }
+    std::int32_t ClientHeight() const noexcept { return clientHeight_; }
+
+    /// Grows with every `SetRecords`: who made foreign calls in between finds out whether his index still
+    /// holds.
+    std::uint64_t Generation() const noexcept { return generation_; }
+
+    std::int32_t ScrollPosition() const noexcept { return scrollPosition_; }
+    /// These return whether the position changed.
+    bool ScrollTo(std::int64_t position);
+    bool ScrollBy(std::int64_t pixels) { return ScrollTo(scrollPosition_ + pixels); }
+    bool ScrollIntoView(std::size_t index);
+
+    std::optional<std::size_t> Current() const noexcept { return current_; }
+    /// Moves the current-page mark; an index beyond the records marks none.
+    void MakeCurrent(std::optional<std::size_t> index);
+
+    /// The record at a point of the client area.
+    std::optional<std::size_t> HitTest(std::int32_t clientX, std::int32_t clientY) const;
+
+    /// The records whose drawing, frames included, may touch the client rows from `top` to `bottom`.
+    IndexRange VisibleIn(std::int32_t top, std::int32_t bottom) const;
+
+    /// How far right of and below its place a thumbnail is drawn.
+    static constexpr std::int32_t drawMargin = 6;
+    /// How far a frame reaches out of the thumbnail.
+    static constexpr std::int32_t frameReach = 4;
+
+  private:
+    ScrollLimits Limits() const noexcept { return {layout_.ContentHeight(), clientHeight_}; }
+    void Arrange();
+
+    std::vector<ThumbnailRecord> records_;
+    ThumbnailLayout layout_;
+    std::optional<std::size_t> current_;
+    std::int32_t clientWidth_ = 0;
+    std::int32_t clientHeight_ = 0;
+    std::int32_t scrollPosition_ = 0;
+    std::uint64_t generation_ = 0;
+};
+
+}  // namespace qz

@@ -1,0 +1,117 @@
+#include "panes/thumbnails/thumbnail_painter.h"
+
+#include "panes/thumbnails/page_drawing.h"
+#include "ui/gdi.h"
+
+namespace qz {
+
+namespace {
+
+constexpr COLORREF selectedColour = RGB(0, 0, 139);
+constexpr COLORREF currentColour = RGB(255, 0, 0);
+
+/// A frame of 2 pixels around the thumbnail, its rectangle `reach` pixels outside.
+void DrawOutline(HDC dc, const ThumbnailRecord& record, COLORREF colour, int reach) {
+    const Pen pen = MakePen(2, colour);
+    const SelectScope penScope(dc, pen.Get());
+    const SelectScope hollow(dc, GetStockObject(NULL_BRUSH));
+    Rectangle(dc, record.x - reach, record.y - reach, record.x + record.width + reach + 1,
+              record.y + record.height + reach + 1);
+}
+
+void DrawMarks(HDC dc, const ThumbnailRecord& record) {
+    if (record.flags & thumbnailSelected) DrawOutline(dc, record, selectedColour, 2);
+    if (record.flags & thumbnailCurrent) DrawOutline(dc, record, currentColour, 3);
+    if (record.flags & thumbnailInverted) {
+        PatBlt(dc, record.x, record.y, record.width, record.height, DSTINVERT);
+    }
+}
+
+void CopyPicture(HDC dc, const ThumbnailRecord& record, const Picture& picture) {
+    BITMAPINFO format{};
+    format.bmiHeader.biSize = sizeof(BITMAPINFOHEADER);
+    format.bmiHeader.biWidth = picture.width;
+    format.bmiHeader.biHeight = -picture.height;  // from the top
+    format.bmiHeader.biPlanes = 1;
+    format.bmiHeader.biBitCount = 32;
+    format.bmiHeader.biCompression = BI_RGB;
+    SetDIBitsToDevice(dc, record.x, record.y, static_cast<DWORD>(picture.width),
+                      static_cast<DWORD>(picture.height), 0, 0, 0, static_cast<UINT>(picture.height),
+                      picture.pixels.data(), &format, DIB_RGB_COLORS);
+}
+
+std::size_t PictureBytes(const ThumbnailRecord& record) {
+    return static_cast<std::size_t>(record.width) * static_cast<std::size_t>(record.height) * 4;
+}
+
+/// A picture as the host draws it, and whether it did.
+struct Rendering {
+    Picture picture;
+    bool complete;
+};
+
+Rendering Render(std::size_t index, const ThumbnailRecord& record, IVandraX* host, long factor) {
+    const DibSection bitmap(record.width, record.height);
+    const MemoryDc dc;
+    const SelectScope selected(dc.Get(), bitmap.Get());
+    const bool complete = DrawPageThumbnail(dc.Get(), host, index, record, factor);
+    GdiFlush();
+    const auto pixels = bitmap.Pixels();
+    return {{record.width, record.height, {pixels.begin(), pixels.end()}}, complete};
+}
+
+}  // namespace
+
+void ThumbnailPainter::Paint(HDC dc, const RECT& dirty, IVandraX* host, long factor) {
+    const std::uint64_t generation = model_.Generation();
+    {
+        const SavedDc saved(dc);
+        OffsetViewportOrgEx(dc, ThumbnailModel::drawMargin, ThumbnailModel::drawMargin, nullptr);
+        const IndexRange range = model_.VisibleIn(dirty.top, dirty.bottom);
+        for (std::size_t i = range.first; i < range.last; ++i) {
+            DrawRecord(dc, i, host, factor);
+            if (model_.Generation() != generation) return;
+        }
+    }
+    pictures_.Trim(model_.VisibleIn(0, model_.ClientHeight()));
+}
+
+void ThumbnailPainter::DrawRecord(HDC dc, std::size_t index, IVandraX* host, long factor) {
+    // A copy: while the host draws, the records may be replaced. Scrolled here rather than by the viewport,
+    // since device coordinates do not reach as far as the content of a document with many large pages.
+    ThumbnailRecord record = model_.Records()[index];
+    if (!record.HasArea()) return;
+    record.y -= model_.ScrollPosition();
+    if (!DrawPicture(dc, index, record, host, factor)) return;
+    DrawMarks(dc, record);
+}
+
+/// Gives false when the records changed meanwhile and the index means nothing any more.
+bool ThumbnailPainter::DrawPicture(HDC dc, std::size_t index, const ThumbnailRecord& record, IVandraX* host,
+                                   long factor) {
+    if (const Picture* const kept = pictures_.Use(index)) {
+        CopyPicture(dc, record, *kept);
+        return true;
+    }
+    const std::uint64_t generation = model_.Generation();
+    if (PictureBytes(record) > pictures_.Budget()) return DrawUncached(dc, index, record, host, factor);
+    Rendering rendering = Render(index, record, host, factor);
+    if (model_.Generation() != generation) return false;
+    CopyPicture(dc, record, rendering.picture);
+    // What the host could not draw is tried again at the next painting.
+    if (rendering.complete) pictures_.Keep(index, std::move(rendering.picture));
+    return true;
+}
+
+/// A sheet too large to keep is drawn in place each time, clipped to what is painted.
+bool ThumbnailPainter::DrawUncached(HDC dc, std::size_t index, const ThumbnailRecord& record, IVandraX* host,
+                                    long factor) {
+    const std::uint64_t generation = model_.Generation();
+    const SavedDc saved(dc);
+    OffsetViewportOrgEx(dc, record.x, record.y, nullptr);
+    IntersectClipRect(dc, 0, 0, record.width, record.height);
+    DrawPageThumbnail(dc, host, index, record, factor);
+    return model_.Generation() == generation;
+}
+
+}  // namespace qz
