@@ -1,0 +1,29 @@
+// The panes of the program. A new pane is a new row in pane_table.cpp.
+#pragma once
+
+#include "sample/container/layout.h"
+
+#include <windows.h>
+
+#include <span>
+
+namespace qz {
+
+/// A property that is set, by name, when the pane's control is new.
+struct InitialProperty {
+    const wchar_t* name;
+    long value;
+};
+
+struct PaneRow {
+    const wchar_t* title;  ///< Shown above the pane; empty: the pane gets no header.
+    const CLSID* classId;
+    DockSide side;
+    int extent;         ///< Preferred width, or height at the bottom, in pixels at 96 dots per inch.
+    const IID* events;  ///< Its event dispinterface; null for a control without events.
+    std::span<const InitialProperty> properties;
+};
+
+std::span<const PaneRow> PaneTable() noexcept;
+
+}  // namespace qz

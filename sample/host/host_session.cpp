@@ -1,0 +1,52 @@
+#include "sample/host/host_session.h"
+
+#include "sample/document/document_file.h"
+#include "sample/document/text.h"
+
+namespace qz::sample {
+
+HRESULT CodeOf(AccessFailure failure) noexcept {
+    switch (failure) {
+        case AccessFailure::NoSuchObject:
+            return HRESULT_FROM_WIN32(ERROR_NOT_FOUND);
+        case AccessFailure::NoSuchAttribute:
+            return DISP_E_UNKNOWNNAME;
+        case AccessFailure::ReadOnly:
+        case AccessFailure::NotAllowed:
+            return E_ACCESSDENIED;
+        case AccessFailure::BadValue:
+            break;
+    }
+    return E_INVALIDARG;
+}
+
+void ThrowModelError() {
+    try {
+        throw;
+    } catch (const AccessError& error) {
+        Throw(CodeOf(error.failure), FromUtf8(error.what()));
+    } catch (const FormatError& error) {
+        Throw(HRESULT_FROM_WIN32(ERROR_INVALID_DATA), FromUtf8(error.what()));
+    }
+}
+
+HRESULT PlannedFailure(REFIID iid, Operation operation, HRESULT code) noexcept {
+    return Guard(iid, [&] { Throw(code, L"Planned failure of " + std::wstring(NameOf(operation))); });
+}
+
+std::wstring ArgumentText(long value) { return std::to_wstring(value); }
+
+std::wstring ArgumentText(BSTR text) { return std::wstring(text ? text : L"", SysStringLen(text)); }
+
+std::wstring ArgumentText(const VARIANT& value) {
+    VARIANT text;
+    VariantInit(&text);
+    if (FAILED(VariantChangeType(&text, const_cast<VARIANT*>(&value), VARIANT_ALPHABOOL, VT_BSTR))) {
+        return L"(type " + std::to_wstring(value.vt) + L")";
+    }
+    const std::wstring result = ArgumentText(text.bstrVal);
+    VariantClear(&text);
+    return result;
+}
+
+}  // namespace qz::sample

@@ -1,0 +1,241 @@
+// Members called by name, and those for the container and for tests.
+#include "sample/document/document_file.h"
+#include "sample/host/file_bytes.h"
+#include "sample/host/host_object.h"
+#include "sample/host/reference_host.h"
+#include "sample/host/variant_value.h"
+
+namespace qz::sample {
+
+HRESULT ReferenceHost::Encrypt(LateBound member, int16_t level, BSTR owner, BSTR user,
+                               long permissions) noexcept {
+    return Call(
+        member,
+        [&] {
+            const bool protects = SysStringLen(owner) > 0 || SysStringLen(user) > 0 || permissions != 0;
+            Model().Protect(protects ? level : int16_t(0), std::wstring(TextView(owner)),
+                            std::wstring(TextView(user)),
+                            protects ? permissions : Model().everythingPermitted);
+            session_->Settle();
+        },
+        permissions);
+}
+
+STDMETHODIMP ReferenceHost::Encrypt(BSTR owner, BSTR user, long permissions) {
+    return Encrypt(LateBound::HostEncrypt, 40, owner, user, permissions);
+}
+
+STDMETHODIMP ReferenceHost::Encrypt128(BSTR owner, BSTR user, long permissions) {
+    return Encrypt(LateBound::HostEncrypt128, 128, owner, user, permissions);
+}
+
+STDMETHODIMP ReferenceHost::CreateObject(long type, BSTR name, IDispatch** object) {
+    return Call(
+        LateBound::HostCreateObject,
+        [&] {
+            RequirePointer(object);
+            *object = nullptr;
+            const ObjectKey key = Model().CreateObject(type, std::wstring(TextView(name)));
+            *object = MakeHostObject(*session_, key).Detach();
+            session_->Settle();
+        },
+        type, name);
+}
+
+STDMETHODIMP ReferenceHost::SelectObjects(long all) {
+    return Call(
+        LateBound::HostSelectObjects,
+        [&] {
+            if (all != 0) {
+                Model().SelectAllOfCurrentPage();
+            } else {
+                Model().SelectNothing();
+            }
+            session_->Settle();
+        },
+        all);
+}
+
+STDMETHODIMP ReferenceHost::get_SettingsKeyPath(BSTR* path) {
+    return Call(LateBound::HostSettingsKeyPath, [&] {
+        RequirePointer(path);
+        *path = nullptr;
+        *path = MakeText(settingsKeyPath_);
+    });
+}
+
+STDMETHODIMP ReferenceHost::put_SettingsKeyPath(BSTR path) {
+    return Extra([&] { settingsKeyPath_ = TextView(path); });
+}
+
+STDMETHODIMP ReferenceHost::LoadDocument(BSTR path) {
+    return Extra([&] {
+        Model().Replace(sample::LoadDocument(ReadFileBytes(std::wstring(TextView(path)))));
+        session_->Settle();
+    });
+}
+
+STDMETHODIMP ReferenceHost::NewDocument(long pages, long width, long height) {
+    return Extra([&] {
+        Model().Replace(MakeDocument(pages, width, height));
+        session_->Settle();
+    });
+}
+
+STDMETHODIMP ReferenceHost::AddPages(long pages, long width, long height) {
+    return Extra([&] {
+        Model().AppendEmptyPages(pages, width, height);
+        session_->Settle();
+    });
+}
+
+STDMETHODIMP ReferenceHost::AddLayer(BSTR name, BSTR displayName, long visible) {
+    return Extra([&] {
+        Model().AddLayer(std::wstring(TextView(name)), std::wstring(TextView(displayName)), visible != 0);
+        session_->Settle();
+    });
+}
+
+STDMETHODIMP ReferenceHost::SelectObject(BSTR path, long keepOthers) {
+    return Extra([&] {
+        Model().Select(Require(path), keepOthers != 0);
+        session_->Settle();
+    });
+}
+
+STDMETHODIMP ReferenceHost::put_Mode(long mode) {
+    return Extra([&] {
+        Model().SetMode(mode);
+        session_->Settle();
+    });
+}
+
+STDMETHODIMP ReferenceHost::put_LanguageId(long language) {
+    return Extra([&] { languageId_ = static_cast<short>(language); });
+}
+
+STDMETHODIMP ReferenceHost::ShowIn(long parentWindow) {
+    return Extra([&] {
+        view_.reset();
+        const HWND parent = reinterpret_cast<HWND>(static_cast<LONG_PTR>(parentWindow));
+        if (!parent) return;
+        if (!IsWindow(parent)) Throw(E_INVALIDARG, L"There is no such window");
+        view_ = std::make_unique<PageView>(Identity(), *session_, painter_);
+        view_->ShowIn(parent);
+    });
+}
+
+STDMETHODIMP ReferenceHost::MoveView(long left, long top, long width, long height) {
+    return Extra([&] {
+        if (view_) view_->Move(left, top, width, height);
+    });
+}
+
+STDMETHODIMP ReferenceHost::get_ViewWindow(long* window) {
+    return Extra([&] {
+        RequirePointer(window);
+        *window = view_ ? static_cast<long>(reinterpret_cast<LONG_PTR>(view_->Handle())) : 0;
+    });
+}
+
+namespace {
+
+Operation RequireOperation(BSTR name) {
+    const std::optional<Operation> operation = FindOperation(TextView(name));
+    if (!operation) Throw(E_INVALIDARG, L"There is no operation " + std::wstring(TextView(name)));
+    return *operation;
+}
+
+}  // namespace
+
+STDMETHODIMP ReferenceHost::get_CallCount(BSTR operation, long* count) {
+    return Extra([&] {
+        RequirePointer(count);
+        const CallRecorder& calls = *session_->calls;
+        const uint64_t number =
+            SysStringLen(operation) == 0 ? calls.Total() : calls.CountOf(RequireOperation(operation));
+        *count = static_cast<long>(number);
+    });
+}
+
+STDMETHODIMP ReferenceHost::put_LogEnabled(long enabled) {
+    session_->calls->SetLogging(enabled != 0);
+    return S_OK;
+}
+
+STDMETHODIMP ReferenceHost::get_LogText(BSTR* text) {
+    return Extra([&] {
+        RequirePointer(text);
+        *text = nullptr;
+        std::wstring all;
+        for (const std::wstring& line : session_->calls->Lines()) all += line + L"\n";
+        *text = MakeText(all);
+    });
+}
+
+STDMETHODIMP ReferenceHost::ClearLog() {
+    session_->calls->Clear();
+    return S_OK;
+}
+
+STDMETHODIMP ReferenceHost::FailCall(long number, long code) {
+    return Extra([&] {
+        if (number < 1 || SUCCEEDED(code))
+            Throw(E_INVALIDARG, L"A failure needs a number from 1 and a failing code");
+        session_->calls->FailCall(static_cast<uint64_t>(number), code);
+    });
+}
+
+STDMETHODIMP ReferenceHost::FailOperation(BSTR operation, long code) {
+    return Extra([&] {
+        if (SUCCEEDED(code)) Throw(E_INVALIDARG, L"A failure needs a failing code");
+        session_->calls->FailOperation(RequireOperation(operation), code);
+    });
+}
+
+STDMETHODIMP ReferenceHost::ClearFaults() {
+    session_->calls->ClearFaults();
+    return S_OK;
+}
+
+STDMETHODIMP ReferenceHost::put_HiddenInterfaces(long bits) {
+    hiddenInterfaces_ = bits;
+    return S_OK;
+}
+
+STDMETHODIMP ReferenceHost::OverrideAttribute(BSTR path, BSTR attribute, VARIANT value) {
+    return Extra([&] {
+        overrides_[{std::wstring(TextView(path)), std::wstring(TextView(attribute))}] = value;
+    });
+}
+
+STDMETHODIMP ReferenceHost::ClearOverrides() {
+    overrides_.clear();
+    return S_OK;
+}
+
+STDMETHODIMP ReferenceHost::RaiseChange(long flags) {
+    return Extra([&] {
+        const ComPtr<IReferenceHost> alive = this;
+        Raise(static_cast<uint32_t>(flags));
+    });
+}
+
+STDMETHODIMP ReferenceHost::get_SinkCount(long* count) {
+    return Extra([&] {
+        RequirePointer(count);
+        *count = 0;
+        ComPtr<IEnumConnections> connections;
+        ThrowIfFailed(events_.EnumConnections(&connections));
+        while (connections->Skip(1) == S_OK) ++*count;
+    });
+}
+
+STDMETHODIMP ReferenceHost::get_EventCount(long* count) {
+    return Extra([&] {
+        RequirePointer(count);
+        *count = eventCount_;
+    });
+}
+
+}  // namespace qz::sample
