@@ -1,0 +1,20 @@
+// What is measured; each in a file of its own.
+#pragma once
+
+#include "benchmarks/report.h"
+
+namespace qz::bench {
+
+/// Rebuilding the records of long documents, against a bare loop of the same host calls.
+void MeasureRebuild(Report& report);
+
+/// One paint, one hit test, one scroll step in a very long document, against a short one.
+void MeasureGrowth(Report& report);
+
+/// The memory of a record, and of the pictures of a document painted from end to end.
+void MeasurePictures(Report& report);
+
+/// Painting thumbnails from the cache, against bare copies of their size.
+void MeasureCopying(Report& report);
+
+}  // namespace qz::bench

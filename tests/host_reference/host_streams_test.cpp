@@ -1,0 +1,102 @@
+#include "tests/host_reference/host_fixture.h"
+
+#include "com/stream.h"
+
+namespace qz::sample {
+namespace {
+
+struct HostStreams : HostTest {
+    HostStreams() {
+        for (long number = 1; number <= 5; ++number) {
+            Write((L"Pages[" + std::to_wstring(number) + L"]").c_str(), L"Width", 1000 * number);
+        }
+        Told();
+    }
+
+    static void Rewind(IStream* stream) { stream->Seek({}, STREAM_SEEK_SET, nullptr); }
+
+    ComPtr<IStream> Saved(IUnknown* document) {
+        const ComPtr<IStream> stream = MakeMemoryStream();
+        ComPtr<IPersistStreamInit> streams;
+        EXPECT_EQ(document->QueryInterface(IID_PPV_ARGS(&streams)), S_OK);
+        EXPECT_EQ(streams->Save(stream.Get(), TRUE), S_OK);
+        Rewind(stream.Get());
+        return stream;
+    }
+
+    long WidthOf(long number) {
+        return Read((L"Pages[" + std::to_wstring(number) + L"]").c_str(), L"Width").lVal;
+    }
+};
+
+TEST_F(HostStreams, PagesOfASequenceAreAppended) {
+    Write(L"Document", L"PageSequence", L"4; 2");
+    const ComPtr<IStream> stream = Saved(ObjectAt(L"Document").Get());
+    Write(L"Document", L"PageSequence", _variant_t());
+    EXPECT_EQ(host->InsertPagesFromStream(stream.Get()), S_OK);
+    EXPECT_EQ(PageCount(), 7);
+    EXPECT_EQ(WidthOf(6), 4000);
+    EXPECT_EQ(WidthOf(7), 2000);
+    EXPECT_EQ(Told(), Flags{0x80});
+}
+
+TEST_F(HostStreams, ADocumentObjectIsLoadedAndInserted) {
+    ComPtr<IDispatch> document;
+    ComPtr<IPersistStreamInit> streams;
+    ASSERT_EQ(host->CreateDocument(&document), S_OK);
+    ASSERT_EQ(document.As(&streams), S_OK);
+    EXPECT_EQ(streams->Load(Saved(host.Get()).Get()), S_OK);
+    EXPECT_EQ(Told(), Flags{});
+    EXPECT_EQ(host->InsertDocument(document.Get()), S_OK);
+    EXPECT_EQ(PageCount(), 10);
+    EXPECT_EQ(WidthOf(10), 5000);
+    EXPECT_EQ(host->InsertDocument(ObjectAt(L"Document").Get()), S_OK);  // into itself
+    EXPECT_EQ(PageCount(), 20);
+}
+
+TEST_F(HostStreams, SeveralDocumentsFollowEachOtherInOneStream) {
+    const ComPtr<IStream> stream = MakeMemoryStream();
+    ComPtr<IPersistStreamInit> streams;
+    host.As(&streams);
+    streams->Save(stream.Get(), FALSE);
+    streams->Save(stream.Get(), FALSE);
+    Rewind(stream.Get());
+    EXPECT_EQ(host->InsertPagesFromStream(stream.Get()), S_OK);
+    EXPECT_EQ(host->InsertPagesFromStream(stream.Get()), S_OK);
+    EXPECT_EQ(PageCount(), 15);
+    EXPECT_NE(host->InsertPagesFromStream(stream.Get()), S_OK);
+    EXPECT_EQ(PageCount(), 15);
+}
+
+TEST_F(HostStreams, DirtIsToldAndTheSizeIsExact) {
+    ComPtr<IPersistStreamInit> streams;
+    host.As(&streams);
+    EXPECT_EQ(streams->IsDirty(), S_OK);
+    ULARGE_INTEGER size{};
+    EXPECT_EQ(streams->GetSizeMax(&size), S_OK);
+    const ComPtr<IStream> stream = Saved(host.Get());
+    EXPECT_EQ(ReadToEnd(stream.Get()).size(), size.QuadPart);
+    EXPECT_EQ(streams->IsDirty(), S_FALSE);
+    host->SetCurrentPage(2);
+    EXPECT_EQ(streams->IsDirty(), S_FALSE);
+    EXPECT_EQ(streams->InitNew(), S_OK);
+    EXPECT_EQ(PageCount(), 0);
+}
+
+TEST_F(HostStreams, WhatIsNoDocumentIsRefusedAndNothingLost) {
+    const ComPtr<IStream> stream = MakeMemoryStream();
+    const std::vector<std::byte> noise(1000, std::byte{'x'});
+    WriteBytes(stream.Get(), noise);
+    Rewind(stream.Get());
+    ComPtr<IPersistStreamInit> streams;
+    host.As(&streams);
+    EXPECT_EQ(streams->Load(stream.Get()), HRESULT_FROM_WIN32(ERROR_INVALID_DATA));
+    EXPECT_EQ(streams->Load(nullptr), E_POINTER);
+    EXPECT_EQ(PageCount(), 5);
+    EXPECT_EQ(Told(), Flags{});
+    ComPtr<IPersistStreamInit> ofPage;
+    EXPECT_EQ(ObjectAt(L"Pages[1]").As(&ofPage), E_NOINTERFACE);
+}
+
+}  // namespace
+}  // namespace qz::sample

@@ -1,0 +1,257 @@
+// The whole module in the registry: what it writes for the machine and for a user, and what stays afterwards.
+#include "tests/module/loaded_module.h"
+#include "tests/module/registry_listing.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+namespace qz {
+namespace {
+
+constexpr const wchar_t* classesPath = L"Software\\Classes";
+const std::wstring classId = L"{560395C7-50BB-4B91-971B-B7432D935AA6}";
+const std::wstring libraryId = L"{1D2EC6D1-E2F3-455F-83E7-9AE07050D20D}";
+
+struct Interface {
+    const wchar_t* name;
+    const wchar_t* id;
+    bool events = false;
+};
+
+constexpr Interface interfaces[] = {
+    {L"IqzBookmarkCtrl", L"{75B3F4F2-B723-4155-9A61-DEE56BD35A48}"},
+    {L"_IqzBookmarkCtrlEvents", L"{5B98AF27-DD15-495D-B160-94D9F6646B73}", true},
+    {L"IqzLayersCtrl", L"{9486FBB3-49A4-49FF-8FA2-6ED90470AF3F}"},
+    {L"_IqzLayersCtrlEvents", L"{A7FE7B18-BB5A-45C4-A7FF-88C65D0AF92E}", true},
+    {L"IqzThumbnailCtrl", L"{4812D34E-A648-49AD-AF03-3AE9D619DE55}"},
+    {L"_IqzThumbnailCtrlEvents", L"{9C2031C0-2DC7-4C33-8EA2-219F2EF8C372}", true},
+    {L"IqzStatusCtrl", L"{F476C5C1-298F-44D5-9534-645E4755D1CD}"},
+    {L"IqzPropCtrl", L"{9A028D8F-D222-44EB-9E41-80ABE5F95078}"},
+    {L"_IqzPropCtrlEvents", L"{308DB383-226E-4247-B084-D3E79596284D}", true},
+    {L"IqzPropertiesDlg", L"{45DEC1EC-A5AC-4EA1-B5D9-217CFC3F08B4}"},
+    {L"IqzGridUnitsDlg", L"{1D710EFC-1C7E-4FA5-A1BE-7FC1CA79D0D5}"},
+    {L"IqzDocSettingsDlg", L"{F3107D70-565A-486C-8D6C-EAB924F5AD78}"},
+    {L"IqzPluginUIDialogs", L"{5D6832C9-5AA7-4CE0-AB07-D85518FBFCE9}"},
+    {L"IqzApplicationPreferences", L"{2C7090E2-E66B-46FF-AE0A-0550C47FDB3B}"},
+    {L"IqzFormatter", L"{312B8A37-C824-435D-A6DC-81A6A024940E}"},
+    {L"IqzCategory", L"{D1364D10-980D-49FC-A200-2287E10C6FD9}"},
+    {L"IqzFormat", L"{A10B1385-7251-4C91-8F5E-A29A1F9E0F7E}"},
+};
+
+// Keys that are the module's by their name.
+bool IsOurs(const std::wstring& name) {
+    return name == classId || name == libraryId || name.starts_with(L"Qz") || name.starts_with(L"qz") ||
+           std::ranges::any_of(interfaces, [&](const Interface& each) { return name == each.id; });
+}
+
+// A Classes key as far as registration may touch it: the names of all keys of the containers, and what ours
+// hold.
+RegistryListing ListClasses(HKEY root) {
+    RegistryListing listing;
+    for (const std::wstring view : {L"", L"Wow6432Node\\"}) {
+        for (const std::wstring container : {L"", L"CLSID\\", L"Interface\\", L"TypeLib\\"}) {
+            const std::wstring prefix = view + container;
+            AddSubkeys(root, std::wstring(classesPath) + L"\\" + prefix, prefix, IsOurs, listing);
+        }
+    }
+    return listing;
+}
+
+// A key with its default value.
+void Expect(RegistryListing& expected, const std::wstring& key, const std::wstring& text) {
+    expected[key];
+    expected[key + L"|"] = text;
+}
+
+RegistryListing ExpectedClass(const std::wstring& modulePath) {
+    RegistryListing expected;
+    for (const wchar_t* progId : {L"QzVandraExt.qzThumbnailCtrl", L"QzVandraExt.qzThumbnailCtrl.1"}) {
+        Expect(expected, progId, L"qzThumbnailCtrl Class");
+        Expect(expected, progId + std::wstring(L"\\CLSID"), classId);
+    }
+    Expect(expected, L"QzVandraExt.qzThumbnailCtrl\\CurVer", L"QzVandraExt.qzThumbnailCtrl.1");
+    const std::wstring key = L"CLSID\\" + classId;
+    Expect(expected, key, L"qzThumbnailCtrl Class");
+    Expect(expected, key + L"\\ProgID", L"QzVandraExt.qzThumbnailCtrl.1");
+    Expect(expected, key + L"\\VersionIndependentProgID", L"QzVandraExt.qzThumbnailCtrl");
+    Expect(expected, key + L"\\InprocServer32", modulePath);
+    Expect(expected, key + L"\\ToolboxBitmap32", modulePath + L", 101");
+    Expect(expected, key + L"\\MiscStatus", L"0");
+    Expect(expected, key + L"\\MiscStatus\\1", L"131473");
+    Expect(expected, key + L"\\TypeLib", libraryId);
+    Expect(expected, key + L"\\Version", L"6.5");
+    expected[key + L"\\InprocServer32|ThreadingModel"] = L"Apartment";
+    for (const wchar_t* flag : {L"Programmable", L"Control", L"Insertable"}) expected[key + L"\\" + flag];
+    return expected;
+}
+
+RegistryListing ExpectedTypeLibrary(const std::wstring& modulePath) {
+    RegistryListing expected;
+    const std::wstring key = L"TypeLib\\" + libraryId;
+    expected[key];
+    Expect(expected, key + L"\\6.5", L"qzVandraExt 6.5 Type Library");
+    expected[key + L"\\6.5\\409"];
+    Expect(expected, key + L"\\6.5\\409\\win64", modulePath);
+    for (const Interface& each : interfaces) {
+        const std::wstring interfaceKey = std::wstring(L"Interface\\") + each.id;
+        const wchar_t* const marshaler = each.events ? L"{00020420-0000-0000-C000-000000000046}"
+                                                     : L"{00020424-0000-0000-C000-000000000046}";
+        Expect(expected, interfaceKey, each.name);
+        Expect(expected, interfaceKey + L"\\ProxyStubClsid32", marshaler);
+        Expect(expected, interfaceKey + L"\\TypeLib", libraryId);
+        expected[interfaceKey + L"\\TypeLib|Version"] = L"6.5";
+    }
+    return expected;
+}
+
+struct Scope {
+    const char* name;
+    HKEY root;
+    const wchar_t* commandLine;
+};
+
+// Wine registers type libraries for the whole machine even when it is asked to for the user.
+HKEY TypeLibraryRoot(const Scope& scope) {
+    static const bool wine = GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;
+    return wine ? HKEY_LOCAL_MACHINE : scope.root;
+}
+
+void PrintTo(const Scope& scope, std::ostream* out) { *out << scope.name; }
+
+class Registration : public testing::TestWithParam<Scope> {
+  protected:
+    void SetUp() override {
+        ASSERT_EQ(Unregister(), S_OK);
+        before_ = List();
+        librariesBefore_ = ListLibraries();
+    }
+    void TearDown() override {
+        EXPECT_EQ(Unregister(), S_OK);
+        EXPECT_EQ(module_.CanUnloadNow(), S_OK);
+    }
+
+    HRESULT Register() const { return module_.Install(true, GetParam().commandLine); }
+    HRESULT Unregister() const { return module_.Install(false, GetParam().commandLine); }
+    RegistryListing List() const { return ListClasses(GetParam().root); }
+    RegistryListing ListLibraries() const { return ListClasses(TypeLibraryRoot(GetParam())); }
+
+    LoadedModule module_;
+    RegistryListing before_;
+    RegistryListing librariesBefore_;
+};
+
+// Entries that registration adds by the system's own choice: help folder and flags of a type library, a
+// second spelling of the marshaler, what 32-bit programs see, and the keys that all modules share.
+bool IsOfTheSystem(const std::wstring& entry) {
+    return entry.starts_with(L"Wow6432Node\\") || entry.starts_with(L"TypeLib\\" + libraryId + L"\\6.5\\") ||
+           entry.find(L"\\ProxyStubClsid") != std::wstring::npos || entry == L"CLSID" ||
+           entry == L"Interface" ||
+           CompareStringOrdinal(entry.c_str(), -1, L"TypeLib", -1, TRUE) == CSTR_EQUAL;
+}
+
+// Takes the expected entries out of those added; each has to be there.
+void TakeOut(RegistryListing& added, const RegistryListing& expected) {
+    for (const auto& [entry, text] : expected) {
+        const auto found = added.extract(entry);
+        ASSERT_TRUE(found) << testing::PrintToString(entry);
+        EXPECT_EQ(found.mapped(), text) << testing::PrintToString(entry);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Scopes, Registration,
+                         testing::Values(Scope{"machine", HKEY_LOCAL_MACHINE, nullptr},
+                                         Scope{"user", HKEY_CURRENT_USER, L"User"}),
+                         [](const auto& info) { return std::string(info.param.name); });
+
+TEST_P(Registration, WritesEveryKeyAndNoOther) {
+    ASSERT_EQ(Register(), S_OK);
+    RegistryListing added = Added(before_, List());
+    added.merge(Added(librariesBefore_, ListLibraries()));
+    TakeOut(added, ExpectedClass(module_.Path()));
+    TakeOut(added, ExpectedTypeLibrary(module_.Path()));
+    for (const auto& [entry, text] : added)
+        EXPECT_TRUE(IsOfTheSystem(entry)) << testing::PrintToString(entry);
+}
+
+TEST_P(Registration, LeavesNothingBehind) {
+    ASSERT_EQ(Register(), S_OK);
+    ASSERT_EQ(Register(), S_OK);
+    ASSERT_EQ(Unregister(), S_OK);
+    EXPECT_EQ(Added(before_, List()), RegistryListing());
+    EXPECT_EQ(Added(List(), before_), RegistryListing());
+    EXPECT_EQ(Added(librariesBefore_, ListLibraries()), RegistryListing());
+}
+
+TEST_P(Registration, LeavesWhatOthersKeepUnderItsNames) {
+    ASSERT_EQ(Register(), S_OK);
+    const std::wstring foreign = std::wstring(classesPath) + L"\\QzVandraExt.qzThumbnailCtrl\\Insertable";
+    RegistryKey::Create(GetParam().root, foreign).SetValue(L"note", RegistryValue::Text(L"foreign"));
+    ASSERT_EQ(Unregister(), S_OK);
+    const RegistryListing left = {{L"QzVandraExt.qzThumbnailCtrl", L""},
+                                  {L"QzVandraExt.qzThumbnailCtrl\\Insertable", L""},
+                                  {L"QzVandraExt.qzThumbnailCtrl\\Insertable|note", L"foreign"}};
+    EXPECT_EQ(Added(before_, List()), left);
+    DeleteTree(GetParam().root, std::wstring(classesPath) + L"\\QzVandraExt.qzThumbnailCtrl");
+}
+
+// A key that does not outlast the session refuses lasting keys below it, and so ends a registration at the
+// step that wants one.
+class VolatileKey {
+  public:
+    VolatileKey(HKEY root, const std::wstring& path) : root_(root), path_(path) {
+        HKEY key = nullptr;
+        made_ = RegCreateKeyExW(root, path.c_str(), 0, nullptr, REG_OPTION_VOLATILE, KEY_READ, nullptr, &key,
+                                nullptr) == ERROR_SUCCESS;
+        if (made_) RegCloseKey(key);
+    }
+    ~VolatileKey() { DeleteTree(root_, path_); }
+    VolatileKey(const VolatileKey&) = delete;
+    VolatileKey& operator=(const VolatileKey&) = delete;
+
+    bool Made() const { return made_; }
+
+  private:
+    HKEY root_;
+    std::wstring path_;
+    bool made_;
+};
+
+TEST_P(Registration, UndoesWhatItDidWhenAStepFails) {
+    const std::wstring keys[] = {L"QzVandraExt.qzThumbnailCtrl.1", L"QzVandraExt.qzThumbnailCtrl",
+                                 L"TypeLib\\" + libraryId};
+    for (const std::wstring& key : keys) {
+        const HKEY root = key.starts_with(L"TypeLib") ? TypeLibraryRoot(GetParam()) : GetParam().root;
+        const VolatileKey obstacle(root, std::wstring(classesPath) + L"\\" + key);
+        ASSERT_TRUE(obstacle.Made());
+        const RegistryListing before = List();
+        EXPECT_TRUE(FAILED(Register())) << testing::PrintToString(key);
+        EXPECT_EQ(Added(before, List()), RegistryListing()) << testing::PrintToString(key);
+        EXPECT_EQ(Added(List(), before), RegistryListing()) << testing::PrintToString(key);
+    }
+}
+
+TEST_P(Registration, IsDoneByTheSystemsOwnTool) {
+    const bool user = GetParam().commandLine != nullptr;
+    const std::wstring path = L"\"" + module_.Path() + L"\"";
+    const std::wstring options = user ? L" /n /i:user " : L" ";
+    for (const bool install : {true, false}) {
+        std::wstring command = L"regsvr32.exe /s" + std::wstring(install ? L"" : L" /u") + options + path;
+        STARTUPINFOW startup = {};
+        startup.cb = sizeof startup;
+        PROCESS_INFORMATION process = {};
+        ASSERT_TRUE(CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
+                                   &startup, &process));
+        EXPECT_EQ(WaitForSingleObject(process.hProcess, 60000), WAIT_OBJECT_0);
+        DWORD exitCode = 1;
+        GetExitCodeProcess(process.hProcess, &exitCode);
+        CloseHandle(process.hThread);
+        CloseHandle(process.hProcess);
+        EXPECT_EQ(exitCode, 0u);
+        EXPECT_EQ(List().contains(L"CLSID\\" + classId), install);
+    }
+    EXPECT_EQ(Added(before_, List()), RegistryListing());
+}
+
+}  // namespace
+}  // namespace qz

@@ -1,0 +1,118 @@
+// A host that fails at any one call: for every call of a step there is a run in which just that call fails.
+#include "pane_fixture.h"
+
+#include <functional>
+
+namespace qz {
+namespace {
+
+constexpr HRESULT planned = 0x8004BEEF;
+
+class HostFailsMidway : public PaneTest {
+  protected:
+    /// What must hold after any step, failed or not.
+    void CheckNothingIsLost(IReferenceHost* host, long number) {
+        host->ClearFaults();
+        long autoRefresh = 0;
+        long page = 0;
+        host->GetAutoRefresh(&autoRefresh);
+        host->GetCurrentPage(&page);
+        EXPECT_EQ(autoRefresh, 1) << "after failing call " << number;
+        EXPECT_EQ(page, 2) << "after failing call " << number;
+        long initialized = -1;
+        pane->get_IsInitialized(&initialized);
+        EXPECT_EQ(initialized, SinkCount(host)) << "after failing call " << number;
+    }
+
+    /// Runs `step` with its first call failing, then its second, ... until one run meets no fault.
+    void Sweep(IReferenceHost* host, const std::function<HRESULT()>& step) {
+        long failures = 0;
+        for (long number = 1; number < 500; ++number) {
+            SetErrorInfo(0, nullptr);
+            host->ClearLog();
+            host->FailCall(number, planned);
+            const HRESULT result = step();
+            const bool reached = CallCount(host, L"") >= number;
+            if (FAILED(result)) {
+                EXPECT_EQ(result, planned);
+                EXPECT_NE(TakeErrorText(), L"") << "failing call " << number;
+                ++failures;
+            }
+            PumpMessages();
+            CheckNothingIsLost(host, number);
+            if (!reached) {
+                EXPECT_EQ(result, S_OK);
+                EXPECT_GT(number, 5) << "the step made hardly any call";
+                EXPECT_GT(failures, 0);
+                return;
+            }
+        }
+        ADD_FAILURE() << "the step never ended";
+    }
+};
+
+TEST_F(HostFailsMidway, Initialize) {
+    Activate();
+    const auto host = MakeHost(4);
+    host->SetCurrentPage(2);
+    const ULONG before = ReferencesOf(host.Get());
+    Sweep(host.Get(), [&] {
+        pane->Reset();
+        EXPECT_EQ(ReferencesOf(host.Get()), before);
+        return pane->Initialize(host.Get());
+    });
+    pane->Reset();
+    EXPECT_EQ(ReferencesOf(host.Get()), before);
+}
+
+TEST_F(HostFailsMidway, RedrawAllThumbs) {
+    Activate();
+    const auto host = MakeHost(4);
+    host->SetCurrentPage(2);
+    ASSERT_EQ(pane->Initialize(host.Get()), S_OK);
+    Sweep(host.Get(), [&] { return pane->RedrawAllThumbs(); });
+    EXPECT_EQ(pane->ScrollPageThumbIntoView(4), S_OK);
+}
+
+TEST_F(HostFailsMidway, HostChange) {
+    Activate();
+    const auto host = MakeHost(4);
+    host->SetCurrentPage(2);
+    ASSERT_EQ(pane->Initialize(host.Get()), S_OK);
+    for (long number = 1; number < 60; ++number) {
+        host->FailCall(number, planned);
+        host->RaiseChange(0x80);
+        PumpMessages();
+        CheckNothingIsLost(host.Get(), number);
+        // The next change finds the pane in order again.
+        host->RaiseChange(0x80);
+        EXPECT_EQ(pane->ScrollPageThumbIntoView(4), S_OK) << "after failing call " << number;
+    }
+}
+
+TEST_F(HostFailsMidway, PartOfThePagesStays) {
+    const auto host = MakeHost(10);
+    host->OverrideAttribute(_bstr_t(L"Pages[4]"), _bstr_t(L"Length"), _variant_t(L"not a number"));
+    EXPECT_EQ(pane->Initialize(host.Get()), DISP_E_TYPEMISMATCH);
+    EXPECT_NE(TakeErrorText(), L"");
+    long initialized = 0;
+    pane->get_IsInitialized(&initialized);
+    EXPECT_EQ(initialized, 1);
+    EXPECT_EQ(pane->ScrollPageThumbIntoView(3), S_OK);
+    EXPECT_EQ(pane->ScrollPageThumbIntoView(4), E_FAIL);
+    _variant_t noContents;
+    host->GetObjectAttribute(_bstr_t(L"Document"), _bstr_t(L"GetPagePtrNoReadContents"), &noContents);
+    EXPECT_EQ(noContents.boolVal, VARIANT_TRUE) << "left set when reading the pages fails";
+
+    host->FailOperation(_bstr_t(L"GetPageCount"), E_FAIL);
+    EXPECT_EQ(pane->RedrawAllThumbs(), E_FAIL);
+    EXPECT_EQ(pane->ScrollPageThumbIntoView(1), E_FAIL)
+        << "the records are gone before the pages are counted";
+    host->ClearFaults();
+    host->ClearOverrides();
+    EXPECT_EQ(pane->RedrawAllThumbs(), S_OK);
+    EXPECT_EQ(pane->ScrollPageThumbIntoView(10), S_OK);
+}
+
+}  // namespace
+}  // namespace qz

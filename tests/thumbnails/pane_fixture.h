@@ -1,0 +1,55 @@
+// The thumbnail pane as a user meets it: from the built DLL, in a real window, on the reference host.
+#pragma once
+
+#include "tests/module/loaded_module.h"
+#include "tests/support/control_site.h"
+#include "tests/support/error_text.h"
+
+#include "generated/qzVandraExt.h"
+#include "generated/reference_host.h"
+
+#include <comdef.h>
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace qz {
+
+/// A new reference host with that many pages of US Letter size.
+ComPtr<IReferenceHost> MakeHost(long pages);
+
+long SinkCount(IReferenceHost* host);
+long CallCount(IReferenceHost* host, const wchar_t* operation);
+/// The calls written down since the log was cleared, one line each.
+std::vector<std::wstring> LogLines(IReferenceHost* host);
+ULONG ReferencesOf(IUnknown* object);
+
+class PaneTest : public ::testing::Test {
+  protected:
+    static constexpr SIZE paneSize{220, 400};
+
+    PaneTest();
+    ~PaneTest() override;
+
+    ComPtr<IqzThumbnailCtrl> MakePane() const;
+    /// Makes `pane` active in a window of its own.
+    void Activate();
+    /// Takes it out of its window again.
+    void Close();
+    HWND PaneWindow() const;
+    long ScrollPosition() const { return GetScrollPos(PaneWindow(), SB_VERT); }
+    /// Handles what is queued, paints included.
+    static void PumpMessages();
+    /// The colour on the screen at a client point of the pane.
+    COLORREF PixelAt(int x, int y) const;
+
+    LoadedModule module;
+    ComPtr<IqzThumbnailCtrl> pane;
+
+  private:
+    HWND frame_ = nullptr;
+    ComPtr<ControlSite> site_;
+};
+
+}  // namespace qz
