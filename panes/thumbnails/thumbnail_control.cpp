@@ -177,24 +177,29 @@ void ThumbnailControl::RebuildAndMarkCurrent() {
 }
 
 void ThumbnailControl::Rebuild() {
-    TakeRecords({});
     const ComPtr<IVandraX> host = binding_.Host();
-    if (!host) return;
-    const OwnHostCalls ours(ownHostCalls_);
     std::vector<ThumbnailRecord> records;
+    // The records there were stay until the new ones have been read: emptying the pane first would lose the
+    // scroll position, and hide the scroll bar only to show it again.
     const auto take = [&] {
         if (binding_.Host() == host) TakeRecords(std::move(records));
     };
-    const long count = PageCountOf(host.Get());
     try {
-        records.reserve(static_cast<std::size_t>(std::clamp(count, 0l, 1l << 20)));
-        ReadPageSizes(host.Get(), count,
-                      [&](const PageSize& size) { records.push_back(MakeThumbnail(size, sizeFactor)); });
+        if (host) ReadRecords(host.Get(), records);
     } catch (...) {
         take();
         throw;
     }
     take();
+}
+
+/// Appends a record for each page; those read before a failure are in `records` when it throws.
+void ThumbnailControl::ReadRecords(IVandraX* host, std::vector<ThumbnailRecord>& records) {
+    const OwnHostCalls ours(ownHostCalls_);
+    const long count = PageCountOf(host);
+    records.reserve(static_cast<std::size_t>(std::clamp(count, 0l, 1l << 20)));
+    ReadPageSizes(host, count,
+                  [&](const PageSize& size) { records.push_back(MakeThumbnail(size, sizeFactor)); });
 }
 
 void ThumbnailControl::TakeRecords(std::vector<ThumbnailRecord> records) {

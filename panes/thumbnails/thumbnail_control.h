@@ -58,6 +58,7 @@ class ThumbnailControl final
     void LetGo();
     void RebuildAndMarkCurrent();
     void Rebuild();
+    void ReadRecords(IVandraX* host, std::vector<ThumbnailRecord>& records);
     void FollowHost();
     void TakeRecords(std::vector<ThumbnailRecord> records);
     void MarkCurrent();

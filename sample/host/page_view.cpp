@@ -48,6 +48,7 @@ std::optional<LRESULT> PageView::OnMessage(UINT message, WPARAM wParam, LPARAM) 
             return 1;
         case WM_SIZE:
             UpdateBars();
+            InvalidateRect(Handle(), nullptr, FALSE);  // the page stands in the middle, which has moved
             return 0;
         case WM_HSCROLL:
             Scroll(SB_HORZ, LOWORD(wParam));

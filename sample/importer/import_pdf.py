@@ -52,7 +52,7 @@ def pages_of(pdf):
 
 
 def describe(pdf, path):
-    """The header of the document file, and the pages' sizes in points."""
+    """The header of the document file, and of each page whether its crop box is what is shown."""
     pages = pages_of(pdf)
     geometries = [PageGeometry(page) for page in pages]
     fields, further = information_of(pdf)
@@ -67,14 +67,14 @@ def describe(pdf, path):
         "information": further,
         "document": {**fields, **security_of(pdf)},
     }
-    return header, [geometry.points for geometry in geometries]
+    return header, [geometry.cropped for geometry in geometries]
 
 
 def import_pdf(source, target, seconds):
     with open_pdf(source) as pdf:
-        header, sizes = describe(pdf, source)
+        header, cropped = describe(pdf, os.path.abspath(source))
     with tempfile.TemporaryDirectory() as folder:
-        pictures = page_pictures.draw(source, folder, sizes, seconds)
+        pictures = page_pictures.draw(os.path.abspath(source), folder, cropped, seconds)
         document_file.write(target, header, pictures)
     missing = pictures.count(None)
     if missing:

@@ -2,67 +2,89 @@
 import concurrent.futures
 import os
 import subprocess
+import tempfile
 import time
 
-LARGEST_SIDE = 2200  # pixels; larger pages are drawn to fit
 QUALITY = 92
-# The most pages that are drawn at a resolution: the fewer pages, the finer. Thumbnails need at most 36 dpi.
-RESOLUTIONS = ((40, 110), (150, 96), (800, 72), (None, 50))
+# The longer side of a picture in pixels: the fewer pages, the finer. It is the same for pages of all sizes, so that
+# neither tiny nor huge pages are out of proportion.
+LONGER_SIDES = ((40, 1600), (150, 1200), (800, 800), (None, 640))
+PAGES_AT_ONCE = 40  # drawn by one process, which has to read the file first
 
 
-def resolution_for(page_count):
-    return next(dpi for most, dpi in RESOLUTIONS if most is None or page_count <= most)
+def longer_side_for(page_count):
+    return next(side for most, side in LONGER_SIDES if most is None or page_count <= most)
 
 
-def runs_of(pages, dpi):
-    """Splits the pages into (first, last, arguments) runs that one process draws alike."""
-    longest_run = max(1, min(40, len(pages) // (os.cpu_count() or 1)))
+def runs_of(cropped):
+    """Splits the pages into (first, last, cropped) runs, so that every processor gets some. `cropped` tells of each
+    page whether its crop box is what is shown."""
+    length = max(1, min(PAGES_AT_ONCE, -(-len(cropped) // (os.cpu_count() or 1))))
     runs = []
-    for number, (width, height) in enumerate(pages, 1):
-        fits = max(width, height) * dpi / 72 <= LARGEST_SIDE
-        how = ("-r", str(dpi)) if fits else ("-scale-to", str(LARGEST_SIDE))
-        last = runs[-1] if runs else None
-        if last and last[2] == how and number - last[0] < longest_run:
-            last[1] = number
+    for number, crop in enumerate(cropped, 1):
+        if runs and runs[-1][2] == crop and number - runs[-1][0] < length:
+            runs[-1] = (runs[-1][0], number, crop)
         else:
-            runs.append([number, number, how])
+            runs.append((number, number, crop))
     return runs
 
 
-def draw_run(path, folder, run, deadline):
-    first, last, how = run
-    left = deadline - time.monotonic()
-    if left <= 0:
-        return
-    command = ["pdftoppm", "-q", "-cropbox", "-jpeg", "-jpegopt", f"quality={QUALITY}", *how,
-               "-f", str(first), "-l", str(last), path, os.path.join(folder, "page")]
-    try:
-        subprocess.run(command, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
-                       timeout=left, check=False)
-    except subprocess.TimeoutExpired:
-        pass  # the pages not drawn by now stay without a picture
+class Drawing:
+    """Draws pages of one file into a folder, until a moment when all drawing ends."""
+
+    def __init__(self, path, folder, page_count, deadline):
+        self.path, self.folder, self.deadline = path, folder, deadline
+        self.side = longer_side_for(page_count)
+
+    def draw(self, run, kind=("-jpeg", "-jpegopt", f"quality={QUALITY}"), folder=None):
+        left = self.deadline - time.monotonic()
+        if left <= 0:
+            return
+        first, last, cropped = run
+        command = ["pdftoppm", "-q", *kind, *(["-cropbox"] if cropped else []), "-scale-to", str(self.side),
+                   "-f", str(first), "-l", str(last), self.path, os.path.join(folder or self.folder, "page")]
+        try:
+            subprocess.run(command, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
+                           timeout=left, check=False)
+        except subprocess.TimeoutExpired:
+            pass  # the pages not drawn by now stay without a picture
+
+    def draw_alone(self, number, cropped):
+        """For a page that was missed: a page that cannot be drawn takes those after it in its run along."""
+        own = tempfile.mkdtemp(dir=self.folder)
+        self.draw((number, number, cropped), folder=own)
+        if not drawn_in(own):
+            self.draw((number, number, cropped), kind=("-png",), folder=own)  # JPEG refuses some sizes
 
 
-def draw(path, folder, pages, seconds):
-    """Draws every page; `pages` are (width, height) in points. Gives a picture file per page, or None."""
-    deadline = time.monotonic() + seconds
+def draw(path, folder, cropped, seconds):
+    """Draws every page. Gives a picture file per page, or None."""
+    drawing = Drawing(path, folder, len(cropped), time.monotonic() + seconds)
     with concurrent.futures.ThreadPoolExecutor(os.cpu_count() or 1) as workers:
-        for run in runs_of(pages, resolution_for(len(pages))):
-            workers.submit(draw_run, path, folder, run, deadline)
-    drawn = {}
-    for name in os.listdir(folder):
-        stem, extension = os.path.splitext(name)
-        picture = os.path.join(folder, name)
-        if extension == ".jpg" and whole_picture(picture):
-            drawn[int(stem.rsplit("-", 1)[1])] = picture
-    return [drawn.get(number) for number in range(1, len(pages) + 1)]
+        list(workers.map(drawing.draw, runs_of(cropped)))
+        numbers = range(1, len(cropped) + 1)
+        missed = sorted(set(numbers) - set(drawn_in(folder)))
+        list(workers.map(drawing.draw_alone, missed, (cropped[number - 1] for number in missed)))
+    drawn = drawn_in(folder)
+    return [drawn.get(number) for number in numbers]
+
+
+def drawn_in(folder):
+    """The whole picture files in a folder and below it, by page number."""
+    pictures = {}
+    for where, _, names in os.walk(folder):
+        for name in names:
+            picture = os.path.join(where, name)
+            if whole_picture(picture):
+                pictures[int(os.path.splitext(name)[0].rsplit("-", 1)[1])] = picture
+    return pictures
 
 
 def whole_picture(path):
     """False for a picture whose process was ended while it wrote."""
+    end = {".jpg": b"\xff\xd9", ".png": b"IEND\xaeB`\x82"}.get(os.path.splitext(path)[1])
+    if not end or os.path.getsize(path) <= len(end):
+        return False
     with open(path, "rb") as picture:
-        picture.seek(0, os.SEEK_END)
-        if picture.tell() < 4:
-            return False
-        picture.seek(-2, os.SEEK_END)
-        return picture.read() == b"\xff\xd9"
+        picture.seek(-len(end), os.SEEK_END)
+        return picture.read() == end

@@ -32,20 +32,21 @@ def box_of(value):
 
 
 def visible_box(page):
+    """What is shown of a page, and whether that is its crop box rather than the medium."""
     media = box_of(inherited(page, "/MediaBox")) or LETTER
     crop = box_of(inherited(page, "/CropBox"))
     if not crop:
-        return media
+        return media, False
     left, bottom = max(crop[0], media[0]), max(crop[1], media[1])
     right, top = min(crop[2], media[2]), min(crop[3], media[3])
-    return (left, bottom, right, top) if right > left and top > bottom else media
+    return ((left, bottom, right, top), True) if right > left and top > bottom else (media, False)
 
 
 class PageGeometry:
     """A page's visible area with rotation and user unit applied; lengths in twips."""
 
     def __init__(self, page):
-        self.box = visible_box(page)
+        self.box, self.cropped = visible_box(page)
         self.rotation = round(number_of(inherited(page, "/Rotate")) / 90) * 90 % 360
         unit = number_of(entry(page, "/UserUnit"), 1.0)
         self.scale = TWIPS_PER_POINT * (unit if 0 < unit <= 1000 else 1.0)
@@ -53,7 +54,6 @@ class PageGeometry:
         size = ((right - left), (top - bottom))
         if self.rotation in (90, 270):
             size = (size[1], size[0])
-        self.points = size
         self.width = max(1, round(size[0] * self.scale))
         self.height = max(1, round(size[1] * self.scale))
 

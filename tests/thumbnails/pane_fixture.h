@@ -4,26 +4,13 @@
 #include "tests/module/loaded_module.h"
 #include "tests/support/control_site.h"
 #include "tests/support/error_text.h"
+#include "tests/support/host_under_test.h"
 
 #include "generated/qzVandraExt.h"
-#include "generated/reference_host.h"
 
-#include <comdef.h>
 #include <gtest/gtest.h>
 
-#include <string>
-#include <vector>
-
 namespace qz {
-
-/// A new reference host with that many pages of US Letter size.
-ComPtr<IReferenceHost> MakeHost(long pages);
-
-long SinkCount(IReferenceHost* host);
-long CallCount(IReferenceHost* host, const wchar_t* operation);
-/// The calls written down since the log was cleared, one line each.
-std::vector<std::wstring> LogLines(IReferenceHost* host);
-ULONG ReferencesOf(IUnknown* object);
 
 class PaneTest : public ::testing::Test {
   protected:

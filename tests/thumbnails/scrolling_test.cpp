@@ -73,6 +73,14 @@ TEST_F(Scrolling, InitializeStartsAtTheTop) {
     EXPECT_EQ(ScrollPosition(), 0);
 }
 
+TEST_F(Scrolling, RebuildingKeepsThePosition) {
+    for (int i = 0; i < 3; ++i) Scroll(SB_PAGEDOWN);
+    EXPECT_EQ(pane->RedrawAllThumbs(), S_OK);
+    EXPECT_EQ(ScrollPosition(), 3 * paneSize.cy);
+    host_->DeletePage(100, 1);
+    EXPECT_EQ(ScrollPosition(), 0) << "a change of the host scrolls to its current page";
+}
+
 TEST_F(Scrolling, PageFarDownIsReachable) {
     const auto large = MakeHost(40000);
     ASSERT_EQ(pane->Initialize(large.Get()), S_OK);

@@ -1,4 +1,5 @@
 // The control in the system's own generic container (class "AtlAxWin").
+#include "tests/support/system_container.h"
 #include "tests/ui/test_control.h"
 
 #include <gtest/gtest.h>
@@ -6,29 +7,14 @@
 namespace qz {
 namespace {
 
-using InitFunction = BOOL(WINAPI*)();
-using AttachFunction = HRESULT(WINAPI*)(IUnknown* control, HWND window, IUnknown** container);
-using GetFunction = HRESULT(WINAPI*)(HWND window, IUnknown** control);
-
-template <class Function>
-Function Find(HMODULE module, const char* name) {
-    return reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(module, name)));
-}
-
 class SystemContainer : public testing::Test {
   protected:
     void SetUp() override {
-        atl = LoadLibraryW(L"atl.dll");
-        if (!atl) GTEST_SKIP() << "this system has no atl.dll";
-        static const bool registered = Find<InitFunction>(atl, "AtlAxWinInit")();  // only once in a process
-        ASSERT_TRUE(registered);
-        window = CreateWindowExW(0, L"AtlAxWin", nullptr, WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 300, 200,
-                                 nullptr, nullptr, GetModuleHandleW(nullptr), nullptr);
+        window = MakeSystemContainer(300, 200);
         ASSERT_TRUE(window);
         control = MakeObject<TestControl>();
         ComPtr<IUnknown> container;
-        ASSERT_EQ(Find<AttachFunction>(atl, "AtlAxAttachControl")(control->Identity(), window, &container),
-                  S_OK);
+        ASSERT_EQ(AttachToSystemContainer(control->Identity(), window, &container), S_OK);
     }
     void TearDown() override {
         if (IsWindow(window)) DestroyWindow(window);
@@ -37,7 +23,6 @@ class SystemContainer : public testing::Test {
         EXPECT_EQ(TestControl::living, 0) << "the container still holds the control";
     }
 
-    HMODULE atl = nullptr;
     HWND window = nullptr;
     ComPtr<TestControl> control;
 };
@@ -63,8 +48,9 @@ TEST_F(SystemContainer, PaintsAndFollowsItsSize) {
 }
 
 TEST_F(SystemContainer, IsFoundFromItsWindow) {
+    using Get = HRESULT(WINAPI*)(HWND window, IUnknown * *control);
     ComPtr<IUnknown> found;
-    ASSERT_EQ(Find<GetFunction>(atl, "AtlAxGetControl")(window, &found), S_OK);
+    ASSERT_EQ(SystemContainerEntry<Get>("AtlAxGetControl")(window, &found), S_OK);
     EXPECT_EQ(found.Get(), control->Identity());
     EXPECT_TRUE(control->UserMode());
 }
