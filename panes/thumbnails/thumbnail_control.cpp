@@ -261,7 +261,7 @@ std::wstring ThumbnailControl::Title() const {
 
 std::span<const PersistentProperty> ThumbnailControl::PersistentProperties() const {
     static constexpr PersistentProperty properties[] = {
-        {L"BackColor", DISPID_BACKCOLOR, VT_I4},
+        {L"BackColor", DISPID_BACKCOLOR, VT_UI4},
         {L"Settings", 9, VT_I4},
     };
     return properties;
@@ -269,7 +269,7 @@ std::span<const PersistentProperty> ThumbnailControl::PersistentProperties() con
 
 void ThumbnailControl::OnDraw(HDC dc, const RECT& bounds) {
     const HWND window = WindowHandle();
-    if (!window) OnSized({bounds.right, bounds.bottom});
+    if (!window) model_.SetClientSize(bounds.right, bounds.bottom);
     RECT dirty{};
     GetClipBox(dc, &dirty);
     if (!IntersectRect(&dirty, &dirty, &bounds)) return;

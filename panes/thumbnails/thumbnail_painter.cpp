@@ -35,9 +35,9 @@ void CopyPicture(HDC dc, const ThumbnailRecord& record, const Picture& picture) 
     format.bmiHeader.biPlanes = 1;
     format.bmiHeader.biBitCount = 32;
     format.bmiHeader.biCompression = BI_RGB;
-    SetDIBitsToDevice(dc, record.x, record.y, static_cast<DWORD>(picture.width),
-                      static_cast<DWORD>(picture.height), 0, 0, 0, static_cast<UINT>(picture.height),
-                      picture.pixels.data(), &format, DIB_RGB_COLORS);
+    // As fast as copying from a bitmap already selected, and it follows a container's scaling.
+    StretchDIBits(dc, record.x, record.y, picture.width, picture.height, 0, 0, picture.width, picture.height,
+                  picture.pixels.data(), &format, DIB_RGB_COLORS, SRCCOPY);
 }
 
 std::size_t PictureBytes(const ThumbnailRecord& record) {
@@ -66,7 +66,9 @@ void ThumbnailPainter::Paint(HDC dc, const RECT& dirty, IVandraX* host, long fac
     const std::uint64_t generation = model_.Generation();
     {
         const SavedDc saved(dc);
-        OffsetViewportOrgEx(dc, ThumbnailModel::drawMargin, ThumbnailModel::drawMargin, nullptr);
+        // The window's origin, not the viewport's: a container may have scaled the device context.
+        OffsetWindowOrgEx(dc, -ThumbnailModel::drawMargin, -ThumbnailModel::drawMargin, nullptr);
+        if (GetMapMode(dc) != MM_TEXT) SetStretchBltMode(dc, HALFTONE);
         const IndexRange range = model_.VisibleIn(dirty.top, dirty.bottom);
         for (std::size_t i = range.first; i < range.last; ++i) {
             DrawRecord(dc, i, host, factor);
@@ -108,7 +110,7 @@ bool ThumbnailPainter::DrawUncached(HDC dc, std::size_t index, const ThumbnailRe
                                     long factor) {
     const std::uint64_t generation = model_.Generation();
     const SavedDc saved(dc);
-    OffsetViewportOrgEx(dc, record.x, record.y, nullptr);
+    OffsetWindowOrgEx(dc, -record.x, -record.y, nullptr);
     IntersectClipRect(dc, 0, 0, record.width, record.height);
     DrawPageThumbnail(dc, host, index, record, factor);
     return model_.Generation() == generation;

@@ -59,19 +59,26 @@ TEST_F(Painting, PageThatCannotBeDrawnIsTriedAgain) {
     EXPECT_EQ(CallCount(host.Get(), L"DrawCurrentPage"), 1);
 }
 
-TEST_F(Painting, DrawsWithoutAWindowToo) {
+TEST_F(Painting, DrawsWithoutAWindowScaledToTheContainersBounds) {
+    constexpr COLORREF green = RGB(0, 255, 0);
     const auto host = MakeHost(3);
+    pane->put_BackColor(green);
     ASSERT_EQ(pane->Initialize(host.Get()), S_OK);
     ComPtr<IViewObject2> view;
     ASSERT_EQ(pane.As(&view), S_OK);
     const HDC screen = GetDC(nullptr);
     const HDC dc = CreateCompatibleDC(screen);
-    const HBITMAP bitmap = CreateCompatibleBitmap(screen, 200, 200);
+    const HBITMAP bitmap = CreateCompatibleBitmap(screen, 400, 400);
     const HGDIOBJ before = SelectObject(dc, bitmap);
-    const RECTL bounds{0, 0, 200, 200};
+    // Its extent of 5080 is 192 pixels: twice as large here.
+    const RECTL bounds{0, 0, 384, 384};
     EXPECT_EQ(view->Draw(DVASPECT_CONTENT, -1, nullptr, nullptr, nullptr, dc, &bounds, nullptr, nullptr, 0),
               S_OK);
-    EXPECT_GT(CallCount(host.Get(), L"DrawCurrentPage"), 0);
+    EXPECT_EQ(CallCount(host.Get(), L"DrawCurrentPage"), 3);
+    EXPECT_EQ(GetPixel(dc, 2 * 3, 2 * 60), red);
+    EXPECT_EQ(GetPixel(dc, 2 * (6 + 85 + 3), 2 * 60), red);
+    EXPECT_NE(GetPixel(dc, 2 * (6 + 80), 2 * 90), green) << "the picture is scaled with its frame";
+    EXPECT_EQ(GetPixel(dc, 2 * (6 + 85 + 7), 2 * 90), green);
     SelectObject(dc, before);
     DeleteObject(bitmap);
     DeleteDC(dc);
