@@ -29,7 +29,7 @@ void PumpMessages() {
 }  // namespace
 
 ComPtr<IReferenceHost> MakeHost(long pages) {
-    ComPtr<IReferenceHost> host = MakeObject<sample::ReferenceHost>();
+    ComPtr<IReferenceHost> host = MakeObject<sample::MemoryHost>();
     ThrowIfFailed(host->NewDocument(pages, letterWidth, letterHeight), L"The host makes no document");
     return host;
 }

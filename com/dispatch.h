@@ -51,6 +51,10 @@ class Dispatch : public I {
         }
     }
 
+  protected:
+    /// Uses a description loaded before: for families of many small objects, as loading one takes long.
+    void ShareTypeInfo(ComPtr<ITypeInfo> info) noexcept { info_ = std::move(info); }
+
   private:
     ITypeInfo* Info() {
         if (!info_) info_ = LoadTypeInfo(__uuidof(I));

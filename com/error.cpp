@@ -19,7 +19,7 @@ std::wstring Compose(HRESULT code, const std::wstring& text) {
 
 }  // namespace
 
-void Throw(HRESULT code, std::wstring text) { throw ComError(code, Compose(code, text)); }
+void Throw(HRESULT code, const std::wstring& text) { throw ComError(code, Compose(code, text)); }
 
 void RequirePointer(const void* pointer) {
     if (!pointer) Throw(E_POINTER, L"A pointer argument is null");

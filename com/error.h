@@ -22,7 +22,7 @@ struct ComError : std::exception {
 };
 
 /// Throws a ComError. An empty text is replaced by the system's own text for the code.
-[[noreturn]] void Throw(HRESULT code, std::wstring text = {});
+[[noreturn]] void Throw(HRESULT code, const std::wstring& text = {});
 
 /// Throws when `code` is a failure. `text` says what was attempted; the system's text is appended.
 inline void ThrowIfFailed(HRESULT code, const wchar_t* text = nullptr) {

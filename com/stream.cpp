@@ -30,7 +30,7 @@ void ReadBytes(IStream* stream, std::span<std::byte> bytes) {
 
 std::vector<std::byte> ReadToEnd(IStream* stream) {
     std::vector<std::byte> bytes;
-    constexpr size_t step = 64 * 1024;
+    constexpr size_t step = size_t{64} * 1024;
     for (;;) {
         const size_t before = bytes.size();
         bytes.resize(before + step);

@@ -105,7 +105,7 @@ std::vector<uint8_t> SaveDocument(const Document& document, const NumberList& se
     return bytes;
 }
 
-Document LoadDocument(std::shared_ptr<const std::vector<uint8_t>> bytes) {
+Document LoadDocument(const std::shared_ptr<const std::vector<uint8_t>>& bytes) {
     if (bytes->size() < documentPreambleSize) throw FormatError("The document is cut off");
     const Preamble lengths = ReadPreamble(bytes->data());
     if (lengths.headerSize + lengths.pictureSize > bytes->size() - documentPreambleSize) {

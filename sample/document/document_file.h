@@ -29,6 +29,6 @@ uint64_t LengthAfterPreamble(std::span<const uint8_t, documentPreambleSize> prea
 std::vector<uint8_t> SaveDocument(const Document& document, const NumberList& sequence);
 
 /// The document held in the bytes, whose pictures it shares. Throws FormatError; bytes after it are ignored.
-Document LoadDocument(std::shared_ptr<const std::vector<uint8_t>> bytes);
+Document LoadDocument(const std::shared_ptr<const std::vector<uint8_t>>& bytes);
 
 }  // namespace qz::sample

@@ -217,7 +217,7 @@ uint32_t ApplySetting(Document& document, ObjectKey key, std::wstring_view name,
     return change::documentSettings;
 }
 
-void AddAttribute(DocumentObject& object, AttributeDescription description, Value value) {
+void AddAttribute(DocumentObject& object, AttributeDescription description, const Value& value) {
     Value coerced = Coerced(value, description.type);
     object.attributes.push_back(
         {std::make_shared<const AttributeDescription>(std::move(description)), std::move(coerced)});

@@ -42,6 +42,6 @@ void CheckWritable(const Document& document, ObjectKey key, std::wstring_view na
 uint32_t ApplySetting(Document& document, ObjectKey key, std::wstring_view name, const Value& value);
 
 /// Makes known a further attribute of an object.
-void AddAttribute(DocumentObject& object, AttributeDescription description, Value value);
+void AddAttribute(DocumentObject& object, AttributeDescription description, const Value& value);
 
 }  // namespace qz::sample

@@ -67,6 +67,7 @@ uint32_t Average(const Raster& source, const Span& column, const Span& row) {
 
 Raster ScalePart(const Raster& source, int width, int height, PixelArea area) {
     std::vector<Span> columns;
+    columns.reserve(static_cast<size_t>(area.width));
     for (int x = 0; x < area.width; ++x) columns.push_back(SpanOf(area.left + x, width, source.width));
     Raster result{area.width, area.height, {}};
     result.pixels.reserve(static_cast<size_t>(area.width) * static_cast<size_t>(area.height));

@@ -16,7 +16,7 @@ STDAPI DllGetClassObject(REFCLSID classId, REFIID iid, void** object) {
     if (!object) return E_POINTER;
     *object = nullptr;
     if (classId != CLSID_ReferenceHost) return CLASS_E_CLASSNOTAVAILABLE;
-    return MakeClassFactory(CreateInstanceOf<sample::ReferenceHost>, iid, object);
+    return MakeClassFactory(CreateInstanceOf<sample::MemoryHost>, iid, object);
 }
 
 STDAPI DllCanUnloadNow() { return ModuleInUse() ? S_FALSE : S_OK; }

@@ -29,7 +29,7 @@ Document ReadDocument(IStream* stream) {
     auto bytes = std::make_shared<std::vector<uint8_t>>();
     ReadMore(stream, documentPreambleSize, *bytes);
     ReadMore(stream, LengthAfterPreamble(std::span(*bytes).first<documentPreambleSize>()), *bytes);
-    return LoadDocument(std::move(bytes));
+    return LoadDocument(bytes);
 }
 
 STDMETHODIMP DocumentStreaming::GetClassID(CLSID* id) {

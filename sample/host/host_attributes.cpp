@@ -12,7 +12,9 @@ namespace {
 class HostAttribute : public Object<HostAttribute, Dispatch<IHostAttribute>> {
   public:
     HostAttribute(ObjectReference object, DescriptionPointer description, long index)
-        : object_(std::move(object)), description_(std::move(description)), index_(index) {}
+        : object_(std::move(object)), description_(std::move(description)), index_(index) {
+        ShareTypeInfo(Session().TypeInfoOf(IID_IHostAttribute));
+    }
 
     /// The module tells attribute objects by the interface that they extend.
     STDMETHODIMP QueryInterface(REFIID iid, void** result) override {
@@ -132,8 +134,8 @@ class HostAttributes : public Object<HostAttributes, Dispatch<IHostAttributes>> 
 
   private:
     ComPtr<IDispatch> Make(size_t index) const {
-        const auto made = MakeObject<HostAttribute>(object_, descriptions_[index], static_cast<long>(index));
-        return static_cast<IHostAttribute*>(made.Get());
+        return MakeAutomationObject<IHostAttribute, HostAttribute>(object_, descriptions_[index],
+                                                                   static_cast<long>(index));
     }
 
     ObjectReference object_;
@@ -143,9 +145,8 @@ class HostAttributes : public Object<HostAttributes, Dispatch<IHostAttributes>> 
 }  // namespace
 
 ComPtr<IDispatch> MakeHostAttributes(const ObjectReference& object) {
-    const auto made =
-        MakeObject<HostAttributes>(object, DescribeAttributes(object.Model().Doc(), object.Key()));
-    return static_cast<IHostAttributes*>(made.Get());
+    return MakeAutomationObject<IHostAttributes, HostAttributes>(
+        object, DescribeAttributes(object.Model().Doc(), object.Key()));
 }
 
 }  // namespace qz::sample

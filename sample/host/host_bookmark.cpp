@@ -14,7 +14,9 @@ namespace {
 class HostBookmark : public Object<HostBookmark, Dispatch<IHostBookmark>> {
   public:
     HostBookmark(HostSession& session, BookmarkId id)
-        : session_(session.shared_from_this()), generation_(session.model.Generation()), id_(id) {}
+        : session_(session.shared_from_this()), generation_(session.model.Generation()), id_(id) {
+        ShareTypeInfo(session.TypeInfoOf(IID_IHostBookmark));
+    }
 
     STDMETHODIMP QueryInterface(REFIID iid, void** result) override {
         if (iid != ownId) return Object::QueryInterface(iid, result);
@@ -189,8 +191,7 @@ class HostBookmark : public Object<HostBookmark, Dispatch<IHostBookmark>> {
 }  // namespace
 
 ComPtr<IDispatch> MakeHostBookmark(HostSession& session, BookmarkId id) {
-    const auto made = MakeObject<HostBookmark>(session, id);
-    return static_cast<IHostBookmark*>(made.Get());
+    return MakeAutomationObject<IHostBookmark, HostBookmark>(session, id);
 }
 
 }  // namespace qz::sample

@@ -12,8 +12,7 @@ ObjectKey ObjectReference::Key() const {
 }
 
 ComPtr<IDispatch> MakeHostObject(HostSession& session, ObjectKey key) {
-    const ComPtr<HostObject> object = MakeObject<HostObject>(ObjectReference(session, key));
-    return static_cast<IHostObject*>(object.Get());
+    return MakeAutomationObject<IHostObject, HostObject>(ObjectReference(session, key));
 }
 
 STDMETHODIMP HostObject::QueryInterface(REFIID iid, void** result) {

@@ -39,7 +39,9 @@ class ObjectReference {
 /// An object of the host. The document's also streams it.
 class HostObject : public Object<HostObject, Dispatch<IHostObject>, DocumentStreaming> {
   public:
-    explicit HostObject(ObjectReference reference) : reference_(std::move(reference)) {}
+    explicit HostObject(ObjectReference reference) : reference_(std::move(reference)) {
+        ShareTypeInfo(reference_.Session().TypeInfoOf(IID_IHostObject));
+    }
 
     STDMETHODIMP QueryInterface(REFIID iid, void** result) override;
 

@@ -1,5 +1,6 @@
 #include "sample/host/host_session.h"
 
+#include "com/type_info.h"
 #include "sample/document/document_file.h"
 #include "sample/document/text.h"
 
@@ -34,6 +35,14 @@ HRESULT PlannedFailure(REFIID iid, Operation operation, HRESULT code) noexcept {
     return Guard(iid, [&] { Throw(code, L"Planned failure of " + std::wstring(NameOf(operation))); });
 }
 
+ComPtr<ITypeInfo> HostSession::TypeInfoOf(REFIID iid) {
+    for (const auto& [known, info] : typeInfos_) {
+        if (known == iid) return info;
+    }
+    typeInfos_.emplace_back(iid, LoadTypeInfo(iid));
+    return typeInfos_.back().second;
+}
+
 std::wstring ArgumentText(long value) { return std::to_wstring(value); }
 
 std::wstring ArgumentText(BSTR text) { return std::wstring(text ? text : L"", SysStringLen(text)); }
@@ -44,7 +53,7 @@ std::wstring ArgumentText(const VARIANT& value) {
     if (FAILED(VariantChangeType(&text, const_cast<VARIANT*>(&value), VARIANT_ALPHABOOL, VT_BSTR))) {
         return L"(type " + std::to_wstring(value.vt) + L")";
     }
-    const std::wstring result = ArgumentText(text.bstrVal);
+    std::wstring result = ArgumentText(text.bstrVal);
     VariantClear(&text);
     return result;
 }

@@ -7,6 +7,8 @@
 
 #include <memory>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace qz::sample {
 
@@ -37,16 +39,30 @@ class HostSession : public std::enable_shared_from_this<HostSession> {
     template <class Body, class... Arguments>
     HRESULT Call(Operation operation, REFIID iid, Body&& body, const Arguments&... arguments) noexcept;
 
+    /// The description of one of the objects' dual interfaces, loaded once. Throws when there is none.
+    ComPtr<ITypeInfo> TypeInfoOf(REFIID iid);
+
     /// The last step of an operation that may have changed something; objects may be gone afterwards.
     void Settle(bool redraw = true) {
         const auto alive = shared_from_this();
         if (owner) owner->ChangesMade(redraw);
     }
+
+  private:
+    std::vector<std::pair<IID, ComPtr<ITypeInfo>>> typeInfos_;
 };
 
 /// Inside a body run by `Call`: turns errors of the model into those of the boundary.
 template <class Body>
 auto WithModelErrors(Body&& body);
+
+/// A new object as its dual interface `Dual` gives it to automation.
+template <class Dual, class T, class... Arguments>
+ComPtr<IDispatch> MakeAutomationObject(Arguments&&... arguments) {
+    ComPtr<IDispatch> object;
+    object.Attach(static_cast<Dual*>(MakeObject<T>(std::forward<Arguments>(arguments)...).Detach()));
+    return object;
+}
 
 /// The HRESULT of a model's error.
 HRESULT CodeOf(AccessFailure failure) noexcept;

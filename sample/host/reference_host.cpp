@@ -17,7 +17,7 @@ constexpr long hideEvents = 4;
 
 }  // namespace
 
-ReferenceHost::ReferenceHost()
+MemoryHost::MemoryHost()
     : session_(std::make_shared<HostSession>(std::make_shared<CallRecorder>())),
       events_(Identity(), DIID__IVandraXEvents),
       settingsKeyPath_(standardSettingsKey),
@@ -25,13 +25,13 @@ ReferenceHost::ReferenceHost()
     session_->owner = this;
 }
 
-void ReferenceHost::FinalRelease() {
+void MemoryHost::FinalRelease() {
     session_->owner = nullptr;
     events_.DisconnectAll();
     view_.reset();
 }
 
-STDMETHODIMP ReferenceHost::QueryInterface(REFIID iid, void** result) {
+STDMETHODIMP MemoryHost::QueryInterface(REFIID iid, void** result) {
     if (!result) return E_POINTER;
     const bool dual = iid == IID_IVandraX;
     const bool hidden = (dual && (hiddenInterfaces_ & hideDual)) ||
@@ -43,37 +43,39 @@ STDMETHODIMP ReferenceHost::QueryInterface(REFIID iid, void** result) {
     return Object::QueryInterface(dual ? IID_IReferenceHost : iid, result);
 }
 
-std::vector<ConnectionPoint*> ReferenceHost::Points() {
+std::vector<ConnectionPoint*> MemoryHost::Points() {
     if (hiddenInterfaces_ & hideEvents) return {};
     return {&events_};
 }
 
-void ReferenceHost::Raise(uint32_t flags) {
+void MemoryHost::Raise(uint32_t flags) {
     const ChangeTracker::Raising raising(Model().changes, flags);
     ++eventCount_;
     FireEvent(events_, changedEvent);
 }
 
 /// A sink may release the host, or change something again: then an event within this one tells of that.
-void ReferenceHost::ChangesMade(bool redraw) {
+void MemoryHost::ChangesMade(bool redraw) {
     const ComPtr<IReferenceHost> alive = this;
-    if (redraw && view_ && Model().changes.AutoRefresh()) view_->Follow();
-    if (const uint32_t flags = Model().changes.Take(Model().View())) Raise(flags);
+    const uint32_t flags = Model().changes.Take(Model().View());
+    if (flags == change::none) return;
+    if (redraw && view_) view_->Follow();
+    Raise(flags);
 }
 
-void ReferenceHost::DrawNow() {
+void MemoryHost::DrawNow() {
     if (view_) view_->DrawNow();
 }
 
-void ReferenceHost::TakeFocus() {
+void MemoryHost::TakeFocus() {
     if (view_ && view_->Handle()) SetFocus(view_->Handle());
 }
 
-HRESULT ReferenceHost::Unused(Place place) noexcept {
+HRESULT MemoryHost::Unused(Place place) noexcept {
     return Call(place, [] { return E_NOTIMPL; });
 }
 
-ObjectKey ReferenceHost::Require(BSTR path) const {
+ObjectKey MemoryHost::Require(BSTR path) const {
     const std::optional<ObjectPath> parsed = ParseObjectPath(TextView(path));
     if (!parsed) Throw(E_INVALIDARG, L"That is no path of an object: " + std::wstring(TextView(path)));
     const std::optional<ObjectKey> key = Resolve(Model().Doc(), *parsed);

@@ -15,21 +15,13 @@
 
 namespace qz::sample {
 
-/// Connection points that the object lists in its interfaces.
-struct HostConnectionPoints : ConnectionPointContainer {
-    static void* FindInterface(HostConnectionPoints* self, REFIID iid) noexcept {
-        return iid == __uuidof(IConnectionPointContainer) ? static_cast<IConnectionPointContainer*>(self)
-                                                          : nullptr;
-    }
-};
-
-/// Apartment-threaded, like everything it gives out.
-class ReferenceHost
-    : public Object<ReferenceHost, Dispatch<IReferenceHost>, HostConnectionPoints, DocumentStreaming,
+/// The host. Apartment-threaded, like everything it gives out.
+class MemoryHost
+    : public Object<MemoryHost, Dispatch<IReferenceHost>, ConnectionPointContainer, DocumentStreaming,
                     ProvideClassInfo<CLSID_ReferenceHost, DIID__IVandraXEvents>>,
       private SessionOwner {
   public:
-    ReferenceHost();
+    MemoryHost();
     void FinalRelease();
 
     STDMETHODIMP QueryInterface(REFIID iid, void** result) override;

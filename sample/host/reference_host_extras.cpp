@@ -7,8 +7,8 @@
 
 namespace qz::sample {
 
-HRESULT ReferenceHost::Encrypt(LateBound member, int16_t level, BSTR owner, BSTR user,
-                               long permissions) noexcept {
+HRESULT MemoryHost::Encrypt(LateBound member, int16_t level, BSTR owner, BSTR user,
+                            long permissions) noexcept {
     return Call(
         member,
         [&] {
@@ -21,15 +21,15 @@ HRESULT ReferenceHost::Encrypt(LateBound member, int16_t level, BSTR owner, BSTR
         permissions);
 }
 
-STDMETHODIMP ReferenceHost::Encrypt(BSTR owner, BSTR user, long permissions) {
+STDMETHODIMP MemoryHost::Encrypt(BSTR owner, BSTR user, long permissions) {
     return Encrypt(LateBound::HostEncrypt, 40, owner, user, permissions);
 }
 
-STDMETHODIMP ReferenceHost::Encrypt128(BSTR owner, BSTR user, long permissions) {
+STDMETHODIMP MemoryHost::Encrypt128(BSTR owner, BSTR user, long permissions) {
     return Encrypt(LateBound::HostEncrypt128, 128, owner, user, permissions);
 }
 
-STDMETHODIMP ReferenceHost::CreateObject(long type, BSTR name, IDispatch** object) {
+STDMETHODIMP MemoryHost::CreateObject(long type, BSTR name, IDispatch** object) {
     return Call(
         LateBound::HostCreateObject,
         [&] {
@@ -42,7 +42,7 @@ STDMETHODIMP ReferenceHost::CreateObject(long type, BSTR name, IDispatch** objec
         type, name);
 }
 
-STDMETHODIMP ReferenceHost::SelectObjects(long all) {
+STDMETHODIMP MemoryHost::SelectObjects(long all) {
     return Call(
         LateBound::HostSelectObjects,
         [&] {
@@ -56,7 +56,7 @@ STDMETHODIMP ReferenceHost::SelectObjects(long all) {
         all);
 }
 
-STDMETHODIMP ReferenceHost::get_SettingsKeyPath(BSTR* path) {
+STDMETHODIMP MemoryHost::get_SettingsKeyPath(BSTR* path) {
     return Call(LateBound::HostSettingsKeyPath, [&] {
         RequirePointer(path);
         *path = nullptr;
@@ -64,57 +64,57 @@ STDMETHODIMP ReferenceHost::get_SettingsKeyPath(BSTR* path) {
     });
 }
 
-STDMETHODIMP ReferenceHost::put_SettingsKeyPath(BSTR path) {
+STDMETHODIMP MemoryHost::put_SettingsKeyPath(BSTR path) {
     return Extra([&] { settingsKeyPath_ = TextView(path); });
 }
 
-STDMETHODIMP ReferenceHost::LoadDocument(BSTR path) {
+STDMETHODIMP MemoryHost::LoadDocument(BSTR path) {
     return Extra([&] {
         Model().Replace(sample::LoadDocument(ReadFileBytes(std::wstring(TextView(path)))));
         session_->Settle();
     });
 }
 
-STDMETHODIMP ReferenceHost::NewDocument(long pages, long width, long height) {
+STDMETHODIMP MemoryHost::NewDocument(long pages, long width, long height) {
     return Extra([&] {
         Model().Replace(MakeDocument(pages, width, height));
         session_->Settle();
     });
 }
 
-STDMETHODIMP ReferenceHost::AddPages(long pages, long width, long height) {
+STDMETHODIMP MemoryHost::AddPages(long pages, long width, long height) {
     return Extra([&] {
         Model().AppendEmptyPages(pages, width, height);
         session_->Settle();
     });
 }
 
-STDMETHODIMP ReferenceHost::AddLayer(BSTR name, BSTR displayName, long visible) {
+STDMETHODIMP MemoryHost::AddLayer(BSTR name, BSTR displayName, long visible) {
     return Extra([&] {
         Model().AddLayer(std::wstring(TextView(name)), std::wstring(TextView(displayName)), visible != 0);
         session_->Settle();
     });
 }
 
-STDMETHODIMP ReferenceHost::SelectObject(BSTR path, long keepOthers) {
+STDMETHODIMP MemoryHost::SelectObject(BSTR path, long keepOthers) {
     return Extra([&] {
         Model().Select(Require(path), keepOthers != 0);
         session_->Settle();
     });
 }
 
-STDMETHODIMP ReferenceHost::put_Mode(long mode) {
+STDMETHODIMP MemoryHost::put_Mode(long mode) {
     return Extra([&] {
         Model().SetMode(mode);
         session_->Settle();
     });
 }
 
-STDMETHODIMP ReferenceHost::put_LanguageId(long language) {
+STDMETHODIMP MemoryHost::put_LanguageId(long language) {
     return Extra([&] { languageId_ = static_cast<short>(language); });
 }
 
-STDMETHODIMP ReferenceHost::ShowIn(long parentWindow) {
+STDMETHODIMP MemoryHost::ShowIn(long parentWindow) {
     return Extra([&] {
         view_.reset();
         const HWND parent = reinterpret_cast<HWND>(static_cast<LONG_PTR>(parentWindow));
@@ -125,13 +125,13 @@ STDMETHODIMP ReferenceHost::ShowIn(long parentWindow) {
     });
 }
 
-STDMETHODIMP ReferenceHost::MoveView(long left, long top, long width, long height) {
+STDMETHODIMP MemoryHost::MoveView(long left, long top, long width, long height) {
     return Extra([&] {
         if (view_) view_->Move(left, top, width, height);
     });
 }
 
-STDMETHODIMP ReferenceHost::get_ViewWindow(long* window) {
+STDMETHODIMP MemoryHost::get_ViewWindow(long* window) {
     return Extra([&] {
         RequirePointer(window);
         *window = view_ ? static_cast<long>(reinterpret_cast<LONG_PTR>(view_->Handle())) : 0;
@@ -148,7 +148,7 @@ Operation RequireOperation(BSTR name) {
 
 }  // namespace
 
-STDMETHODIMP ReferenceHost::get_CallCount(BSTR operation, long* count) {
+STDMETHODIMP MemoryHost::get_CallCount(BSTR operation, long* count) {
     return Extra([&] {
         RequirePointer(count);
         const CallRecorder& calls = *session_->calls;
@@ -158,12 +158,12 @@ STDMETHODIMP ReferenceHost::get_CallCount(BSTR operation, long* count) {
     });
 }
 
-STDMETHODIMP ReferenceHost::put_LogEnabled(long enabled) {
+STDMETHODIMP MemoryHost::put_LogEnabled(long enabled) {
     session_->calls->SetLogging(enabled != 0);
     return S_OK;
 }
 
-STDMETHODIMP ReferenceHost::get_LogText(BSTR* text) {
+STDMETHODIMP MemoryHost::get_LogText(BSTR* text) {
     return Extra([&] {
         RequirePointer(text);
         *text = nullptr;
@@ -173,12 +173,12 @@ STDMETHODIMP ReferenceHost::get_LogText(BSTR* text) {
     });
 }
 
-STDMETHODIMP ReferenceHost::ClearLog() {
+STDMETHODIMP MemoryHost::ClearLog() {
     session_->calls->Clear();
     return S_OK;
 }
 
-STDMETHODIMP ReferenceHost::FailCall(long number, long code) {
+STDMETHODIMP MemoryHost::FailCall(long number, long code) {
     return Extra([&] {
         if (number < 1 || SUCCEEDED(code))
             Throw(E_INVALIDARG, L"A failure needs a number from 1 and a failing code");
@@ -186,42 +186,42 @@ STDMETHODIMP ReferenceHost::FailCall(long number, long code) {
     });
 }
 
-STDMETHODIMP ReferenceHost::FailOperation(BSTR operation, long code) {
+STDMETHODIMP MemoryHost::FailOperation(BSTR operation, long code) {
     return Extra([&] {
         if (SUCCEEDED(code)) Throw(E_INVALIDARG, L"A failure needs a failing code");
         session_->calls->FailOperation(RequireOperation(operation), code);
     });
 }
 
-STDMETHODIMP ReferenceHost::ClearFaults() {
+STDMETHODIMP MemoryHost::ClearFaults() {
     session_->calls->ClearFaults();
     return S_OK;
 }
 
-STDMETHODIMP ReferenceHost::put_HiddenInterfaces(long bits) {
+STDMETHODIMP MemoryHost::put_HiddenInterfaces(long bits) {
     hiddenInterfaces_ = bits;
     return S_OK;
 }
 
-STDMETHODIMP ReferenceHost::OverrideAttribute(BSTR path, BSTR attribute, VARIANT value) {
+STDMETHODIMP MemoryHost::OverrideAttribute(BSTR path, BSTR attribute, VARIANT value) {
     return Extra([&] {
         overrides_[{std::wstring(TextView(path)), std::wstring(TextView(attribute))}] = value;
     });
 }
 
-STDMETHODIMP ReferenceHost::ClearOverrides() {
+STDMETHODIMP MemoryHost::ClearOverrides() {
     overrides_.clear();
     return S_OK;
 }
 
-STDMETHODIMP ReferenceHost::RaiseChange(long flags) {
+STDMETHODIMP MemoryHost::RaiseChange(long flags) {
     return Extra([&] {
         const ComPtr<IReferenceHost> alive = this;
         Raise(static_cast<uint32_t>(flags));
     });
 }
 
-STDMETHODIMP ReferenceHost::get_SinkCount(long* count) {
+STDMETHODIMP MemoryHost::get_SinkCount(long* count) {
     return Extra([&] {
         RequirePointer(count);
         *count = 0;
@@ -231,7 +231,7 @@ STDMETHODIMP ReferenceHost::get_SinkCount(long* count) {
     });
 }
 
-STDMETHODIMP ReferenceHost::get_EventCount(long* count) {
+STDMETHODIMP MemoryHost::get_EventCount(long* count) {
     return Extra([&] {
         RequirePointer(count);
         *count = eventCount_;

@@ -31,15 +31,15 @@ Document CopyOf(IDispatch* document) {
 
 }  // namespace
 
-STDMETHODIMP ReferenceHost::GetDocumentMode(long* mode) {
+STDMETHODIMP MemoryHost::GetDocumentMode(long* mode) {
     return Call(Place::GetDocumentMode, [&] { Give(mode, Model().View().mode); });
 }
 
-STDMETHODIMP ReferenceHost::GetZoom(long* percent) {
+STDMETHODIMP MemoryHost::GetZoom(long* percent) {
     return Call(Place::GetZoom, [&] { Give(percent, Model().View().zoom); });
 }
 
-STDMETHODIMP ReferenceHost::SetZoom(long percent) {
+STDMETHODIMP MemoryHost::SetZoom(long percent) {
     return Call(
         Place::SetZoom,
         [&] {
@@ -49,15 +49,15 @@ STDMETHODIMP ReferenceHost::SetZoom(long percent) {
         percent);
 }
 
-STDMETHODIMP ReferenceHost::Refresh() {
+STDMETHODIMP MemoryHost::Refresh() {
     return Call(Place::Refresh, [&] { DrawNow(); });
 }
 
-STDMETHODIMP ReferenceHost::GetAutoRefresh(long* flag) {
+STDMETHODIMP MemoryHost::GetAutoRefresh(long* flag) {
     return Call(Place::GetAutoRefresh, [&] { Give(flag, Model().changes.AutoRefresh()); });
 }
 
-STDMETHODIMP ReferenceHost::SetAutoRefresh(long flag) {
+STDMETHODIMP MemoryHost::SetAutoRefresh(long flag) {
     return Call(
         Place::SetAutoRefresh,
         [&] {
@@ -67,26 +67,26 @@ STDMETHODIMP ReferenceHost::SetAutoRefresh(long flag) {
         flag);
 }
 
-STDMETHODIMP ReferenceHost::GetLanguageId(short* languageId) {
+STDMETHODIMP MemoryHost::GetLanguageId(short* languageId) {
     return Call(Place::GetLanguageId, [&] { Give(languageId, languageId_); });
 }
 
-STDMETHODIMP ReferenceHost::GetBookmarks(IDispatch** root) {
+STDMETHODIMP MemoryHost::GetBookmarks(IDispatch** root) {
     return Call(Place::GetBookmarks, [&] {
         Give(root, nullptr);
         *root = MakeHostBookmark(*session_, Outline::root).Detach();
     });
 }
 
-STDMETHODIMP ReferenceHost::GetPageCount(long* count) {
+STDMETHODIMP MemoryHost::GetPageCount(long* count) {
     return Call(Place::GetPageCount, [&] { Give(count, Model().Doc().pages.Count()); });
 }
 
-STDMETHODIMP ReferenceHost::GetCurrentPage(long* page) {
+STDMETHODIMP MemoryHost::GetCurrentPage(long* page) {
     return Call(Place::GetCurrentPage, [&] { Give(page, Model().View().currentPage); });
 }
 
-STDMETHODIMP ReferenceHost::SetCurrentPage(long page) {
+STDMETHODIMP MemoryHost::SetCurrentPage(long page) {
     return Call(
         Place::SetCurrentPage,
         [&] {
@@ -96,7 +96,7 @@ STDMETHODIMP ReferenceHost::SetCurrentPage(long page) {
         page);
 }
 
-void ReferenceHost::ReadAttributeInto(BSTR path, BSTR attribute, VARIANT* value) {
+void MemoryHost::ReadAttributeInto(BSTR path, BSTR attribute, VARIANT* value) {
     if (!overrides_.empty()) {
         const auto found = overrides_.find({std::wstring(TextView(path)), std::wstring(TextView(attribute))});
         if (found != overrides_.end()) return ThrowIfFailed(VariantCopy(value, &found->second));
@@ -111,7 +111,7 @@ void ReferenceHost::ReadAttributeInto(BSTR path, BSTR attribute, VARIANT* value)
     PutValue(read, *session_, value);
 }
 
-STDMETHODIMP ReferenceHost::GetObjectAttribute(BSTR path, BSTR attribute, VARIANT* value) {
+STDMETHODIMP MemoryHost::GetObjectAttribute(BSTR path, BSTR attribute, VARIANT* value) {
     return Call(
         Place::GetObjectAttribute,
         [&] {
@@ -122,7 +122,7 @@ STDMETHODIMP ReferenceHost::GetObjectAttribute(BSTR path, BSTR attribute, VARIAN
         path, attribute);
 }
 
-STDMETHODIMP ReferenceHost::SetObjectAttribute(BSTR path, BSTR attribute, VARIANT value) {
+STDMETHODIMP MemoryHost::SetObjectAttribute(BSTR path, BSTR attribute, VARIANT value) {
     return Call(
         Place::SetObjectAttribute,
         [&] {
@@ -134,11 +134,11 @@ STDMETHODIMP ReferenceHost::SetObjectAttribute(BSTR path, BSTR attribute, VARIAN
         path, attribute, value);
 }
 
-STDMETHODIMP ReferenceHost::GetPageOpFlag(long* flag) {
+STDMETHODIMP MemoryHost::GetPageOpFlag(long* flag) {
     return Call(Place::GetPageOpFlag, [&] { Give(flag, Model().changes.PageOperations()); });
 }
 
-STDMETHODIMP ReferenceHost::SetPageOpFlag(long flag) {
+STDMETHODIMP MemoryHost::SetPageOpFlag(long flag) {
     return Call(
         Place::SetPageOpFlag,
         [&] {
@@ -148,7 +148,7 @@ STDMETHODIMP ReferenceHost::SetPageOpFlag(long flag) {
         flag);
 }
 
-STDMETHODIMP ReferenceHost::GetCurrentObject(VARIANT* object) {
+STDMETHODIMP MemoryHost::GetCurrentObject(VARIANT* object) {
     return Call(Place::GetCurrentObject, [&] {
         RequirePointer(object);
         VariantInit(object);
@@ -159,19 +159,19 @@ STDMETHODIMP ReferenceHost::GetCurrentObject(VARIANT* object) {
     });
 }
 
-STDMETHODIMP ReferenceHost::GetPageWidth(long* twips) {
+STDMETHODIMP MemoryHost::GetPageWidth(long* twips) {
     return Call(Place::GetPageWidth, [&] { Give(twips, Model().CurrentPage().width); });
 }
 
-STDMETHODIMP ReferenceHost::GetPageHeight(long* twips) {
+STDMETHODIMP MemoryHost::GetPageHeight(long* twips) {
     return Call(Place::GetPageHeight, [&] { Give(twips, Model().CurrentPage().height); });
 }
 
-STDMETHODIMP ReferenceHost::GetSelectionCount(long* count) {
+STDMETHODIMP MemoryHost::GetSelectionCount(long* count) {
     return Call(Place::GetSelectionCount, [&] { Give(count, Model().Selection().size()); });
 }
 
-STDMETHODIMP ReferenceHost::GetObjectByPath(BSTR path, IDispatch** object) {
+STDMETHODIMP MemoryHost::GetObjectByPath(BSTR path, IDispatch** object) {
     return Call(
         Place::GetObjectByPath,
         [&] {
@@ -181,7 +181,7 @@ STDMETHODIMP ReferenceHost::GetObjectByPath(BSTR path, IDispatch** object) {
         path);
 }
 
-STDMETHODIMP ReferenceHost::DeletePage(long page, long flag) {
+STDMETHODIMP MemoryHost::DeletePage(long page, long flag) {
     return Call(
         Place::DeletePage,
         [&] {
@@ -191,18 +191,18 @@ STDMETHODIMP ReferenceHost::DeletePage(long page, long flag) {
         page, flag);
 }
 
-STDMETHODIMP ReferenceHost::InsertDocument(IDispatch* document) {
+STDMETHODIMP MemoryHost::InsertDocument(IDispatch* document) {
     return Call(Place::InsertDocument, [&] {
         Model().AppendPagesOf(CopyOf(document));
         session_->Settle();
     });
 }
 
-STDMETHODIMP ReferenceHost::GetBookmarkState(long* state) {
+STDMETHODIMP MemoryHost::GetBookmarkState(long* state) {
     return Call(Place::GetBookmarkState, [&] { Give(state, Model().OutlineState()); });
 }
 
-STDMETHODIMP ReferenceHost::MovePages(long first, long count, long target) {
+STDMETHODIMP MemoryHost::MovePages(long first, long count, long target) {
     return Call(
         Place::MovePages,
         [&] {
@@ -212,7 +212,7 @@ STDMETHODIMP ReferenceHost::MovePages(long first, long count, long target) {
         first, count, target);
 }
 
-STDMETHODIMP ReferenceHost::SetSelectionAttribute(BSTR attribute, VARIANT value, long flag) {
+STDMETHODIMP MemoryHost::SetSelectionAttribute(BSTR attribute, VARIANT value, long flag) {
     return Call(
         Place::SetSelectionAttribute,
         [&] {
@@ -222,11 +222,11 @@ STDMETHODIMP ReferenceHost::SetSelectionAttribute(BSTR attribute, VARIANT value,
         attribute, value, flag);
 }
 
-STDMETHODIMP ReferenceHost::GetChangeFlags(long* flags) {
+STDMETHODIMP MemoryHost::GetChangeFlags(long* flags) {
     return Call(Place::GetChangeFlags, [&] { Give(flags, Model().changes.Flags(Model().View())); });
 }
 
-STDMETHODIMP ReferenceHost::UpdateView(long what, long redraw) {
+STDMETHODIMP MemoryHost::UpdateView(long what, long redraw) {
     return Call(
         Place::UpdateView,
         [&] {
@@ -237,7 +237,7 @@ STDMETHODIMP ReferenceHost::UpdateView(long what, long redraw) {
         what, redraw);
 }
 
-STDMETHODIMP ReferenceHost::ApplyObjectSetting(BSTR path, BSTR attribute, VARIANT value) {
+STDMETHODIMP MemoryHost::ApplyObjectSetting(BSTR path, BSTR attribute, VARIANT value) {
     return Call(
         Place::ApplyObjectSetting,
         [&] {
@@ -247,7 +247,7 @@ STDMETHODIMP ReferenceHost::ApplyObjectSetting(BSTR path, BSTR attribute, VARIAN
         path, attribute, value);
 }
 
-STDMETHODIMP ReferenceHost::CreateDocument(IDispatch** document) {
+STDMETHODIMP MemoryHost::CreateDocument(IDispatch** document) {
     return Call(Place::CreateDocument, [&] {
         Give(document, nullptr);
         const auto session = std::make_shared<HostSession>(session_->calls);
@@ -256,7 +256,7 @@ STDMETHODIMP ReferenceHost::CreateDocument(IDispatch** document) {
     });
 }
 
-STDMETHODIMP ReferenceHost::DrawCurrentPage(HdcHandle dc, long flag, long percent) {
+STDMETHODIMP MemoryHost::DrawCurrentPage(HdcHandle dc, long flag, long percent) {
     return Call(
         Place::DrawCurrentPage,
         [&] {
@@ -269,7 +269,7 @@ STDMETHODIMP ReferenceHost::DrawCurrentPage(HdcHandle dc, long flag, long percen
         flag, percent);
 }
 
-STDMETHODIMP ReferenceHost::InsertPagesFromStream(IStream* stream) {
+STDMETHODIMP MemoryHost::InsertPagesFromStream(IStream* stream) {
     return Call(Place::InsertPagesFromStream, [&] {
         Model().AppendPagesOf(ReadDocument(stream));
         session_->Settle();

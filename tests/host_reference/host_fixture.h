@@ -42,7 +42,7 @@ struct HostTest : testing::Test {
     DWORD cookie = Advise(sink.Get());
 
     static ComPtr<IReferenceHost> MakeHost() {
-        const ComPtr<ReferenceHost> made = MakeObject<ReferenceHost>();
+        const ComPtr<MemoryHost> made = MakeObject<MemoryHost>();
         const ComPtr<IReferenceHost> host = static_cast<IReferenceHost*>(made.Get());
         host->NewDocument(5, 12240, 15840);
         return host;
