@@ -1,7 +1,7 @@
 // Attaching the pane to hosts, good and bad, and letting go of them.
 #include "pane_fixture.h"
 
-#include "res/language.h"
+#include <comdef.h>
 
 namespace qz {
 namespace {
@@ -16,6 +16,38 @@ long Initialized(IqzThumbnailCtrl* pane) {
 
 /// An automation object that is no host.
 ComPtr<IDispatch> MakeStranger() { return MakeObject<ControlSite>(nullptr).Get(); }
+
+TEST_F(AttachTest, AnswersWhatContainersAsk) {
+    const IID asked[] = {
+        IID_IOleObject,         IID_IOleInPlaceObject, IID_IOleInPlaceActiveObject,   IID_IOleControl,
+        IID_IViewObject,        IID_IViewObject2,      IID_IPersistStreamInit,        IID_IPersistPropertyBag,
+        IID_IDispatch,          IID_ISupportErrorInfo, IID_IConnectionPointContainer, IID_IProvideClassInfo,
+        IID_IProvideClassInfo2, IID_IqzThumbnailCtrl};
+    ComPtr<IUnknown> identity;
+    ASSERT_EQ(pane.As(&identity), S_OK);
+    for (const IID& iid : asked) {
+        ComPtr<IUnknown> answered;
+        ASSERT_EQ(pane->QueryInterface(iid, &answered), S_OK) << std::hex << iid.Data1;
+        ComPtr<IUnknown> same;
+        answered.As(&same);
+        EXPECT_EQ(same.Get(), identity.Get());
+    }
+    ComPtr<IProvideClassInfo2> information;
+    ASSERT_EQ(pane.As(&information), S_OK);
+    GUID events{};
+    EXPECT_EQ(information->GetGUID(GUIDKIND_DEFAULT_SOURCE_DISP_IID, &events), S_OK);
+    EXPECT_EQ(events, DIID__IqzThumbnailCtrlEvents);
+    ComPtr<ITypeInfo> type;
+    ASSERT_EQ(information->GetClassInfo(&type), S_OK);
+    _bstr_t name;
+    type->GetDocumentation(MEMBERID_NIL, name.GetAddress(), nullptr, nullptr, nullptr);
+    EXPECT_STREQ(name, L"qzThumbnailCtrl");
+    ComPtr<IConnectionPointContainer> container;
+    ComPtr<IConnectionPoint> point;
+    ASSERT_EQ(pane.As(&container), S_OK);
+    EXPECT_EQ(container->FindConnectionPoint(events, &point), S_OK);
+    EXPECT_EQ(container->FindConnectionPoint(IID_IPropertyNotifySink, &point), S_OK);
+}
 
 TEST_F(AttachTest, WithoutHostMembersDoNothing) {
     Activate();
