@@ -47,7 +47,9 @@ void RegisterHost() {
     const std::wstring path = ThisModulePath();
     for (const Row& row : rows) Write(row, path);
     ComPtr<ITypeLib> library;
-    ThrowIfFailed(LoadTypeLibEx(path.c_str(), REGKIND_REGISTER, &library),
+    ThrowIfFailed(LoadTypeLibEx(path.c_str(), REGKIND_NONE, &library), L"The type library cannot be loaded");
+    auto* const libraryPath = const_cast<wchar_t*>(path.c_str());  // the system does not write there
+    ThrowIfFailed(RegisterTypeLib(library.Get(), libraryPath, nullptr),
                   L"The type library cannot be registered");
 }
 
@@ -59,8 +61,11 @@ void UnregisterHost() {
                           L"The class cannot be unregistered");
         }
     }
-    const HRESULT removed = UnRegisterTypeLib(libraryId, 6, 5, 0, SYS_WIN64);
-    if (removed != TYPE_E_REGISTRYACCESS) ThrowIfFailed(removed, L"The type library cannot be unregistered");
+    BSTR path = nullptr;
+    if (FAILED(QueryPathOfRegTypeLib(libraryId, 6, 5, 0, &path))) return;  // none to remove
+    SysFreeString(path);
+    ThrowIfFailed(UnRegisterTypeLib(libraryId, 6, 5, 0, SYS_WIN64),
+                  L"The type library cannot be unregistered");
 }
 
 }  // namespace qz::sample
