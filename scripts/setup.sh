@@ -9,7 +9,7 @@ packages=(
     g++-mingw-w64-x86-64-posix mingw-w64-tools libwine-dev      # cross build; libwine-dev has the IDL files
     nlohmann-json3-dev
     googletest clang-format clang-tidy                          # tests and lints
-    wine64 xvfb imagemagick xdotool                             # running and looking at it
+    wine64 xvfb imagemagick                                     # running and looking at it
     fonts-wine fonts-liberation fonts-ipafont-gothic
     python3 python3-pikepdf qpdf poppler-utils                  # PDF importer
 )

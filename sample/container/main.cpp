@@ -98,8 +98,9 @@ int Run(const CommandLine& options, int showCommand) {
     std::optional<ActivationContext> manifest;
     if (!options.manifest.empty()) manifest.emplace(options.manifest);
     MainWindow window(options.size);
-    const std::wstring failure = OpenFirstDocument(window, options);
+    // The panes hear of the document as of any later one, and scroll to its page.
     window.AttachPanes();
+    const std::wstring failure = OpenFirstDocument(window, options);
     window.Show(showCommand);
     if (!failure.empty()) window.ShowError(failure);
     return RunMessages(window, options.readyFile);
