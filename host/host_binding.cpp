@@ -37,6 +37,7 @@ void HostBinding::Attach(IDispatch* candidate) {
     Detach();
     DWORD cookie = 0;
     ThrowIfFailed(events->Advise(sink->Identity(), &cookie), L"The host refuses the event connection");
+    Detach();  // a host that was attached inside the calls above would keep its sink
     host_ = host;
     events_ = events;
     sink_ = sink;
@@ -47,7 +48,7 @@ void HostBinding::Attach(IDispatch* candidate) {
         Detach();
         Throw(result, L"The host does not tell its language");
     }
-    languageId_ = static_cast<std::uint16_t>(language);
+    if (host_ == host) languageId_ = static_cast<std::uint16_t>(language);
 }
 
 void HostBinding::Detach() noexcept {

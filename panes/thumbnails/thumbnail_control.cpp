@@ -71,7 +71,9 @@ void ThumbnailControl::Attach(IDispatch* host) {
         throw;
     }
     try {
-        PageCountOf(binding_.Host().Get());
+        const ComPtr<IVandraX> attached = binding_.Host();
+        if (!attached) Throw(E_ABORT, L"The pane was reset while it was being attached");
+        PageCountOf(attached.Get());
     } catch (...) {
         LetGo();
         throw;
@@ -198,8 +200,9 @@ void ThumbnailControl::ReadRecords(IVandraX* host, std::vector<ThumbnailRecord>&
     const OwnHostCalls ours(ownHostCalls_);
     const long count = PageCountOf(host);
     records.reserve(static_cast<std::size_t>(std::clamp(count, 0l, 1l << 20)));
+    recordFactor_ = sizeFactor;
     ReadPageSizes(host, count,
-                  [&](const PageSize& size) { records.push_back(MakeThumbnail(size, sizeFactor)); });
+                  [&](const PageSize& size) { records.push_back(MakeThumbnail(size, recordFactor_)); });
 }
 
 void ThumbnailControl::TakeRecords(std::vector<ThumbnailRecord> records) {
@@ -288,7 +291,7 @@ void ThumbnailControl::DrawPane(HDC dc, const RECT& dirty) {
     const ComPtr<IVandraX> host = binding_.Host();
     if (!host) return;
     const OwnHostCalls ours(ownHostCalls_);
-    painter_.Paint(dc, dirty, host.Get(), sizeFactor);
+    painter_.Paint(dc, dirty, host.Get(), recordFactor_);
 }
 
 void ThumbnailControl::OnSized(SIZE client) {

@@ -74,6 +74,9 @@ class ThumbnailControl final
     HostBinding binding_{*this};
     ConnectionPoint events_;
     WheelAccumulator wheel_;
+    /// The size factor that the records were made with: a new one shows from the next rebuild on, also in the
+    /// pictures drawn until then.
+    long recordFactor_ = 0;
     /// Non-zero while the pane itself calls the host, whose notifications then tell it nothing new.
     int ownHostCalls_ = 0;
     long settings_ = qzThumbnailCtrlSettings_ContextMenu | qzThumbnailCtrlSettings_PageMoveOrDragAndDrop;

@@ -1,6 +1,8 @@
 // What is on the screen, and what it costs the host.
 #include "pane_fixture.h"
 
+#include <set>
+
 namespace qz {
 namespace {
 
@@ -43,6 +45,28 @@ TEST_F(Painting, FramesLabelAndBackground) {
     PumpMessages();
     EXPECT_EQ(PixelAt(6 - 3, top + 50), red);
     EXPECT_EQ(PixelAt(left + 85 + 2, top + 50), RGB(10, 200, 30));
+}
+
+TEST_F(Painting, NewFactorShowsOnlyAfterARebuild) {
+    const auto host = MakeHost(100);
+    pane->put_ThumbSizeFactor(20);
+    Activate();
+    ASSERT_EQ(pane->Initialize(host.Get()), S_OK);
+    const auto other = MakePane();  // sets the factor of all panes back to 14
+    host->put_LogEnabled(1);
+    const auto scales = [&] {
+        host->ClearLog();
+        SendMessageW(PaneWindow(), WM_VSCROLL, SB_PAGEDOWN, 0);
+        PumpMessages();
+        std::set<std::wstring> found;
+        for (const std::wstring& line : LogLines(host.Get())) {
+            if (line.rfind(L"DrawCurrentPage", 0) == 0) found.insert(line.substr(line.rfind(L' ') + 1));
+        }
+        return found;
+    };
+    EXPECT_EQ(scales(), std::set<std::wstring>{L"20"});
+    EXPECT_EQ(pane->RedrawAllThumbs(), S_OK);
+    EXPECT_EQ(scales(), std::set<std::wstring>{L"14"});
 }
 
 TEST_F(Painting, PageThatCannotBeDrawnIsTriedAgain) {
