@@ -126,11 +126,10 @@ VARIANT EventArgument(long* value) noexcept {
     return argument;
 }
 
-void FireEvent(ConnectionPoint& point, DISPID id, std::initializer_list<VARIANT> arguments) {
-    const std::vector<VARIANT> declared(arguments);
+void FireEvent(ConnectionPoint& point, DISPID id, std::vector<VARIANT> arguments) {
     point.ForEachSink([&](IUnknown* sink) {
         // Invoke takes them last to first, in a copy: what one sink does to it does not reach the next.
-        std::vector<VARIANT> reversed(declared.rbegin(), declared.rend());
+        std::vector<VARIANT> reversed(arguments.rbegin(), arguments.rend());
         DISPPARAMS parameters{reversed.data(), nullptr, static_cast<UINT>(reversed.size()), 0};
         static_cast<IDispatch*>(sink)->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &parameters,
                                               nullptr, nullptr, nullptr);

@@ -7,7 +7,6 @@
 #include <olectl.h>
 
 #include <functional>
-#include <initializer_list>
 #include <vector>
 
 namespace qz {
@@ -61,7 +60,8 @@ VARIANT EventArgument(long value) noexcept;
 VARIANT EventArgument(long* value) noexcept;
 
 /// Raises the event `id` of a dispatch interface with arguments in their declared order.
-void FireEvent(ConnectionPoint& point, DISPID id, std::initializer_list<VARIANT> arguments = {});
+/// What they refer to stays the caller's.
+void FireEvent(ConnectionPoint& point, DISPID id, std::vector<VARIANT> arguments = {});
 
 /// Base of an object with connection points, which it lists in `Points()`.
 class ConnectionPointContainer : public IConnectionPointContainer {

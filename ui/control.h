@@ -201,6 +201,11 @@ class Control : public IOleObject,
     OLE_COLOR BackColorOle() const { return backColor_.value_or(InitialBackColor()); }
     COLORREF BackColorRef() const;
 
+    /// Shows a message box over the container's window and gives the button pressed; 0 when it could not be
+    /// shown. No caption. The container is modal meanwhile, and messages are handled: look again at
+    /// everything afterwards.
+    int ShowMessageBox(const std::wstring& text, UINT style);
+
     /// The control as an IUnknown to be counted (not its identity).
     IUnknown* Self() noexcept { return static_cast<IOleObject*>(this); }
 

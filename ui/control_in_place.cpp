@@ -231,6 +231,16 @@ STDMETHODIMP Control::SetObjectRects(LPCRECT position, LPCRECT clip) {
     });
 }
 
+int Control::ShowMessageBox(const std::wstring& text, UINT style) {
+    const ComPtr<IUnknown> alive = Self();
+    const ComPtr<IOleInPlaceFrame> frame = frame_;  // the same one is told of the end
+    if (frame) frame->EnableModeless(FALSE);
+    const HWND window = window_.Handle();
+    const int button = MessageBoxW(window ? GetAncestor(window, GA_ROOT) : nullptr, text.c_str(), L"", style);
+    if (frame) frame->EnableModeless(TRUE);
+    return button;
+}
+
 STDMETHODIMP Control::ReactivateAndUndo() { return INPLACE_E_NOTUNDOABLE; }
 
 STDMETHODIMP Control::OnFrameWindowActivate(BOOL) { return S_OK; }

@@ -1,11 +1,11 @@
+// The pane's members, its tie to the host, and its records.
 #include "panes/thumbnails/thumbnail_control.h"
 
 #include "host/page_sizes.h"
 #include "panes/thumbnails/host_changes.h"
-#include "res/language.h"
-#include "res/strings.h"
-#include "res/text_ids.h"
-#include "ui/gdi.h"
+#include "panes/thumbnails/own_host_calls.h"
+#include "panes/thumbnails/page_drag.h"
+#include "panes/thumbnails/page_numbers.h"
 
 #include <algorithm>
 
@@ -20,33 +20,15 @@ constexpr long largestSizeFactor = 50;
 /// One value for all thumbnail panes of the process; all run on the user-interface thread.
 long sizeFactor = defaultSizeFactor;
 
-/// Marks a stretch in which the pane itself calls the host.
-class OwnHostCalls {
-  public:
-    explicit OwnHostCalls(int& depth) noexcept : depth_(depth) { ++depth_; }
-    ~OwnHostCalls() { --depth_; }
-    OwnHostCalls(const OwnHostCalls&) = delete;
-    OwnHostCalls& operator=(const OwnHostCalls&) = delete;
-
-  private:
-    int& depth_;
-};
-
-long PageCountOf(IVandraX* host) {
-    long count = 0;
-    ThrowIfFailed(host->GetPageCount(&count), L"The host does not tell the number of pages");
-    return count;
-}
-
 }  // namespace
 
-ThumbnailControl::ThumbnailControl() : events_(Identity(), DIID__IqzThumbnailCtrlEvents) {
+ThumbnailControl::ThumbnailControl() : events_(Identity(), [this] { return EventsFrozen(); }) {
     sizeFactor = defaultSizeFactor;
 }
 
 void ThumbnailControl::FinalRelease() noexcept {
     binding_.Detach();
-    events_.DisconnectAll();
+    events_.Point().DisconnectAll();
     Control::FinalRelease();
 }
 
@@ -102,8 +84,7 @@ STDMETHODIMP ThumbnailControl::ScrollPageThumbIntoView(long page) {
         if (page < 1 || static_cast<std::size_t>(page) > model_.Records().size()) {
             Throw(E_FAIL, L"The document has no page " + std::to_wstring(page));
         }
-        model_.ScrollIntoView(static_cast<std::size_t>(page) - 1);
-        SyncScrollPosition();
+        scrollBar_.ScrollIntoView(WindowHandle(), static_cast<std::size_t>(page) - 1);
         Invalidate();
     });
 }
@@ -141,13 +122,16 @@ STDMETHODIMP ThumbnailControl::get_SelectedPages(VARIANT* pVal) {
     return Guard(__uuidof(IqzThumbnailCtrl), [&] {
         RequirePointer(pVal);
         VariantInit(pVal);
-        Throw(E_NOTIMPL, L"Selecting pages is not available yet");
+        *pVal = MakePageNumbers(model_.Selection().Pages()).Detach();
     });
 }
 
-STDMETHODIMP ThumbnailControl::put_SelectedPages(VARIANT) {
-    return Guard(__uuidof(IqzThumbnailCtrl),
-                 [] { Throw(E_NOTIMPL, L"Selecting pages is not available yet"); });
+STDMETHODIMP ThumbnailControl::put_SelectedPages(VARIANT newVal) {
+    const ComPtr<IUnknown> alive = Identity();
+    return Guard(__uuidof(IqzThumbnailCtrl), [&] {
+        model_.Selection().AddPages(PageNumbersOf(newVal));
+        UpdateNow();
+    });
 }
 
 STDMETHODIMP ThumbnailControl::get_Settings(qzThumbnailCtrlSettings* pVal) {
@@ -208,8 +192,22 @@ void ThumbnailControl::ReadRecords(IVandraX* host, std::vector<ThumbnailRecord>&
 void ThumbnailControl::TakeRecords(std::vector<ThumbnailRecord> records) {
     painter_.Pictures().Clear();
     model_.SetRecords(std::move(records));
-    UpdateScrollBar();
+    press_.reset();
+    ForgetDrag();
+    scrollBar_.Update(WindowHandle());
     Invalidate();
+}
+
+/// A drag from here goes on, but its page numbers mean nothing any more: nothing will be deleted for it.
+void ThumbnailControl::ForgetDrag() {
+    if (!draggedRecord_) return;
+    draggedRecord_.reset();
+    if (PageDrag* const drag = CurrentPageDrag()) drag->pages.clear();
+}
+
+/// Whether, after foreign code has run, page numbers and indexes taken before it still mean the same.
+bool ThumbnailControl::StillShows(const ComPtr<IVandraX>& host, std::uint64_t generation) const noexcept {
+    return host && binding_.Host() == host && model_.Generation() == generation;
 }
 
 void ThumbnailControl::MarkCurrent() {
@@ -228,38 +226,31 @@ void ThumbnailControl::OnHostChanged() noexcept {
     if (ownHostCalls_ > 0 || !binding_.Host()) return;
     const ComPtr<IUnknown> alive = Identity();
     // Nobody asked, so nobody is told of a failure: the pane shows what it could learn.
-    Guard(__uuidof(IqzThumbnailCtrl), [this] { FollowHost(); });
+    Guard(__uuidof(IqzThumbnailCtrl), [this] { FollowHost(Pages::AskHost); });
 }
 
-void ThumbnailControl::FollowHost() {
+/// Reads from the host what changed; that the pages did is known already when the pane itself changed them.
+void ThumbnailControl::FollowHost(Pages pages) {
     const ComPtr<IVandraX> host = binding_.Host();
     long page = 0;
     long flags = 0;
-    ThrowIfFailed(host->GetCurrentPage(&page));
-    ThrowIfFailed(host->GetChangeFlags(&flags));
+    ThrowIfFailed(host->GetCurrentPage(&page), L"The host does not tell its current page");
+    ThrowIfFailed(host->GetChangeFlags(&flags), L"The host does not tell what changed");
     const HostChange change{static_cast<std::uint32_t>(flags)};
-    if (change.Ignored()) return;
+    const bool changed = pages == Pages::Changed;
+    if (change.Ignored() && !changed) return;
     const long count = PageCountOf(host.Get());
     const bool recount = static_cast<std::size_t>(std::max(count, 0l)) != model_.Records().size();
-    const bool rebuilt = recount || change.PagesChanged();
+    const bool rebuilt = changed || recount || change.PagesChanged();
     if (rebuilt) Rebuild();
     const auto current = page >= 1 ? std::optional(static_cast<std::size_t>(page) - 1) : std::nullopt;
     model_.MakeCurrent(current);
     if (model_.Current()) {
-        model_.ScrollIntoView(*model_.Current());
-        SyncScrollPosition();
+        scrollBar_.ScrollIntoView(WindowHandle(), *model_.Current());
         // Dropped, so that the painting below draws it anew.
         if (change.PictureChanged() && !rebuilt) painter_.Pictures().Drop(*model_.Current());
     }
-    Invalidate();
-    if (const HWND window = WindowHandle()) UpdateWindow(window);
-}
-
-// View
-// ---------------------------------------------------------------------------------------------------------
-
-std::wstring ThumbnailControl::Title() const {
-    return LoadText(LanguageFromId(binding_.LanguageId()), QZ_TEXT_THUMBNAILS);
+    UpdateNow();
 }
 
 std::span<const PersistentProperty> ThumbnailControl::PersistentProperties() const {
@@ -268,117 +259,6 @@ std::span<const PersistentProperty> ThumbnailControl::PersistentProperties() con
         {L"Settings", 9, VT_I4},
     };
     return properties;
-}
-
-void ThumbnailControl::OnDraw(HDC dc, const RECT& bounds) {
-    const HWND window = WindowHandle();
-    if (!window) model_.SetClientSize(bounds.right, bounds.bottom);
-    RECT dirty{};
-    GetClipBox(dc, &dirty);
-    if (!IntersectRect(&dirty, &dirty, &bounds)) return;
-    if (window && WindowFromDC(dc) == window) {
-        const PaintBuffer buffer(dc, dirty);  // no flicker on the screen; containers get the drawing itself
-        DrawPane(buffer.Dc(), dirty);
-        buffer.Show();
-    } else {
-        DrawPane(dc, dirty);
-    }
-}
-
-void ThumbnailControl::DrawPane(HDC dc, const RECT& dirty) {
-    const Brush background = MakeBrush(BackColorRef());
-    FillRect(dc, &dirty, background.Get());
-    const ComPtr<IVandraX> host = binding_.Host();
-    if (!host) return;
-    const OwnHostCalls ours(ownHostCalls_);
-    painter_.Paint(dc, dirty, host.Get(), recordFactor_);
-}
-
-void ThumbnailControl::OnSized(SIZE client) {
-    model_.SetClientSize(client.cx, client.cy);
-    UpdateScrollBar();
-    Invalidate();
-}
-
-std::optional<LRESULT> ThumbnailControl::OnMessage(UINT message, WPARAM wParam, LPARAM) {
-    switch (message) {
-        case WM_VSCROLL:
-            OnVerticalScroll(LOWORD(wParam));
-            return 0;
-        case WM_MOUSEWHEEL:
-            OnWheel(GET_WHEEL_DELTA_WPARAM(wParam));
-            return 0;
-        default:
-            return std::nullopt;
-    }
-}
-
-// Scrolling
-// ----------------------------------------------------------------------------------------------------
-
-void ThumbnailControl::OnVerticalScroll(WORD command) {
-    if (!binding_.Host()) return;
-    const std::int64_t position = model_.ScrollPosition();
-    switch (command) {
-        case SB_LINEUP:
-            ScrollTo(position - scrollLine);
-            break;
-        case SB_LINEDOWN:
-            ScrollTo(position + scrollLine);
-            break;
-        case SB_PAGEUP:
-            ScrollTo(position - model_.ClientHeight());
-            break;
-        case SB_PAGEDOWN:
-            ScrollTo(position + model_.ClientHeight());
-            break;
-        case SB_THUMBTRACK: {
-            // The message carries only 16 bits of the position.
-            SCROLLINFO info{};
-            info.cbSize = sizeof(info);
-            info.fMask = SIF_TRACKPOS;
-            if (GetScrollInfo(WindowHandle(), SB_VERT, &info)) ScrollTo(info.nTrackPos);
-            break;
-        }
-        default:
-            break;
-    }
-}
-
-void ThumbnailControl::OnWheel(short delta) {
-    if (!binding_.Host()) return;
-    const int notches = wheel_.Turn(delta);
-    if (notches == 0) return;
-    UINT lines = 3;
-    SystemParametersInfoW(SPI_GETWHEELSCROLLLINES, 0, &lines, 0);
-    const std::int64_t step =
-        lines == WHEEL_PAGESCROLL ? model_.ClientHeight() : std::int64_t{scrollLine} * lines;
-    ScrollTo(model_.ScrollPosition() - notches * step);
-}
-
-void ThumbnailControl::ScrollTo(std::int64_t position) {
-    if (!model_.ScrollTo(position)) return;
-    SyncScrollPosition();
-    Invalidate();
-}
-
-void ThumbnailControl::UpdateScrollBar() {
-    const HWND window = WindowHandle();
-    if (!window) return;
-    // Showing or hiding the bar changes the client width, which comes back through OnSized.
-    SCROLLINFO info{};
-    info.cbSize = sizeof(info);
-    info.fMask = SIF_RANGE | SIF_PAGE;
-    info.nMax = model_.ContentHeight();
-    info.nPage = static_cast<UINT>(model_.ClientHeight());
-    SetScrollInfo(window, SB_VERT, &info, TRUE);
-    SyncScrollPosition();
-}
-
-void ThumbnailControl::SyncScrollPosition() {
-    const HWND window = WindowHandle();
-    const int position = model_.ScrollPosition();
-    if (window && GetScrollPos(window, SB_VERT) != position) SetScrollPos(window, SB_VERT, position, TRUE);
 }
 
 }  // namespace qz

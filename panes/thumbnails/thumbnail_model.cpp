@@ -7,6 +7,8 @@ namespace qz {
 void ThumbnailModel::SetRecords(std::vector<ThumbnailRecord> records) {
     records_ = std::move(records);
     current_.reset();
+    dropTarget_.reset();
+    selection_.Forget();
     ++generation_;
     Arrange();
 }
@@ -34,12 +36,19 @@ bool ThumbnailModel::ScrollIntoView(std::size_t index) {
 
 void ThumbnailModel::MakeCurrent(std::optional<std::size_t> index) {
     if (current_) records_.at(*current_).flags &= static_cast<std::uint8_t>(~thumbnailCurrent);
+    if (!index && selection_.GetBounds()) index = selection_.GetBounds()->first;
     current_ = index && *index < records_.size() ? index : std::nullopt;
     if (current_) records_[*current_].flags |= thumbnailCurrent;
 }
 
 std::optional<std::size_t> ThumbnailModel::HitTest(std::int32_t clientX, std::int32_t clientY) const {
     return layout_.HitTest(records_, clientX, std::int64_t{clientY} + scrollPosition_);
+}
+
+Rect ThumbnailModel::DrawnArea(std::size_t index) const {
+    const ThumbnailRecord& record = records_.at(index);
+    const Point origin{record.x + drawMargin, record.y - scrollPosition_ + drawMargin};
+    return Rect::At(origin, {record.width, record.height}).Grown(frameReach);
 }
 
 IndexRange ThumbnailModel::VisibleIn(std::int32_t top, std::int32_t bottom) const {

@@ -1,8 +1,11 @@
-// The pane's pages: their records, where they lie, what is scrolled to and which is current.
+// The pane's pages: their records, where they lie, what is scrolled to, which are selected and which is
+// current.
 #pragma once
 
+#include "panes/thumbnails/page_selection.h"
 #include "panes/thumbnails/thumbnail_layout.h"
 #include "panes/thumbnails/thumbnail_scroll.h"
+#include "ui/geometry.h"
 
 #include <cstdint>
 #include <optional>
@@ -14,6 +17,10 @@ namespace qz {
 /// Pure state; the control asks it what to draw and where to scroll. Indexes are zero-based.
 class ThumbnailModel {
   public:
+    ThumbnailModel() = default;
+    ThumbnailModel(const ThumbnailModel&) = delete;  // the selection refers to the records
+    ThumbnailModel& operator=(const ThumbnailModel&) = delete;
+
     /// Takes new records and places them. Selection and current page are forgotten; the scroll position
     /// stays, within its limits.
     void SetRecords(std::vector<ThumbnailRecord> records);
@@ -36,11 +43,22 @@ class ThumbnailModel {
     bool ScrollIntoView(std::size_t index);
 
     std::optional<std::size_t> Current() const noexcept { return current_; }
-    /// Moves the current-page mark; an index beyond the records marks none.
+    /// Moves the current-page mark; without an index to the first selected record, if any. An index beyond
+    /// the records marks none.
     void MakeCurrent(std::optional<std::size_t> index);
+
+    PageSelection& Selection() noexcept { return selection_; }
+    const PageSelection& Selection() const noexcept { return selection_; }
+
+    /// The record that a drag would drop its pages on; it is drawn inverted. Forgotten with the records.
+    std::optional<std::size_t> DropTarget() const noexcept { return dropTarget_; }
+    void SetDropTarget(std::optional<std::size_t> index) noexcept { dropTarget_ = index; }
 
     /// The record at a point of the client area.
     std::optional<std::size_t> HitTest(std::int32_t clientX, std::int32_t clientY) const;
+
+    /// Where a record is drawn, frames included, in client coordinates.
+    Rect DrawnArea(std::size_t index) const;
 
     /// The records whose drawing, frames included, may touch the client rows from `top` to `bottom`.
     IndexRange VisibleIn(std::int32_t top, std::int32_t bottom) const;
@@ -56,7 +74,9 @@ class ThumbnailModel {
 
     std::vector<ThumbnailRecord> records_;
     ThumbnailLayout layout_;
+    PageSelection selection_{records_};
     std::optional<std::size_t> current_;
+    std::optional<std::size_t> dropTarget_;
     std::int32_t clientWidth_ = 0;
     std::int32_t clientHeight_ = 0;
     std::int32_t scrollPosition_ = 0;

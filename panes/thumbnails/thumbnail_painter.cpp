@@ -84,8 +84,17 @@ void ThumbnailPainter::DrawRecord(HDC dc, std::size_t index, IVandraX* host, lon
     ThumbnailRecord record = model_.Records()[index];
     if (!record.HasArea()) return;
     record.y -= model_.ScrollPosition();
+    if (model_.DropTarget() == index) record.flags |= thumbnailInverted;
     if (!DrawPicture(dc, index, record, host, factor)) return;
     DrawMarks(dc, record);
+}
+
+void ThumbnailPainter::DrawSheet(HDC dc, std::size_t index, POINT at, IVandraX* host, long factor) {
+    ThumbnailRecord record = model_.Records()[index];
+    if (!record.HasArea()) return;
+    record.x = at.x;
+    record.y = at.y;
+    DrawPicture(dc, index, record, host, factor);
 }
 
 /// Gives false when the records changed meanwhile and the index means nothing any more.

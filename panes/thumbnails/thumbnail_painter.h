@@ -20,6 +20,10 @@ class ThumbnailPainter {
     /// `factor` is the host's scale in percent. Stops early when the host's doings changed the records.
     void Paint(HDC dc, const RECT& dirty, IVandraX* host, long factor);
 
+    /// Draws the sheet of one record, unmarked, with its top left corner at `at`. A sheet without area draws
+    /// nothing.
+    void DrawSheet(HDC dc, std::size_t index, POINT at, IVandraX* host, long factor);
+
   private:
     void DrawRecord(HDC dc, std::size_t index, IVandraX* host, long factor);
     bool DrawPicture(HDC dc, std::size_t index, const ThumbnailRecord& record, IVandraX* host, long factor);

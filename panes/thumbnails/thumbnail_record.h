@@ -10,7 +10,7 @@ namespace qz {
 enum ThumbnailFlags : std::uint8_t {
     thumbnailSelected = 1,
     thumbnailCurrent = 2,
-    thumbnailInverted = 4,  // the drop target, for the duration of one draw
+    thumbnailInverted = 4,  // the drop target; set on the copy that is drawn, never kept
 };
 
 /// One page's thumbnail; its place in the array is its zero-based page index. Its picture, if drawn, is in

@@ -46,7 +46,7 @@ void PaneTest::Close() {
 HWND PaneTest::PaneWindow() const {
     ComPtr<IOleWindow> object;
     HWND window = nullptr;
-    if (SUCCEEDED(pane.As(&object))) object->GetWindow(&window);
+    if (pane && SUCCEEDED(pane.As(&object))) object->GetWindow(&window);
     return window;
 }
 

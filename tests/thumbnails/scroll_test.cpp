@@ -8,12 +8,12 @@ namespace qz {
 namespace {
 
 /// One record a row, each 100 pixels high.
-ThumbnailModel Column(std::size_t count, std::int32_t clientHeight) {
-    ThumbnailModel model;
-    model.SetClientSize(100, clientHeight);
-    model.SetRecords(std::vector<ThumbnailRecord>(count, {.width = 80, .height = 100}));
-    return model;
-}
+struct Column : ThumbnailModel {
+    Column(std::size_t count, std::int32_t clientHeight) {
+        SetClientSize(100, clientHeight);
+        SetRecords(std::vector<ThumbnailRecord>(count, {.width = 80, .height = 100}));
+    }
+};
 
 TEST(ThumbnailScroll, UpperLimitFirstThenLower) {
     constexpr ScrollLimits tall{1000, 300};
@@ -24,7 +24,7 @@ TEST(ThumbnailScroll, UpperLimitFirstThenLower) {
 }
 
 TEST(ThumbnailScroll, IntoViewMovesAsLittleAsNeeded) {
-    ThumbnailModel model = Column(20, 250);
+    Column model(20, 250);
     EXPECT_FALSE(model.ScrollIntoView(0));
     EXPECT_TRUE(model.ScrollIntoView(2));  // 220..320 and its gap end at the view's lower edge
     EXPECT_EQ(model.ScrollPosition(), 330 - 250);
@@ -36,7 +36,7 @@ TEST(ThumbnailScroll, IntoViewMovesAsLittleAsNeeded) {
 }
 
 TEST(ThumbnailScroll, PositionFollowsAShrinkingDocument) {
-    ThumbnailModel model = Column(20, 250);
+    Column model(20, 250);
     model.ScrollTo(100000);
     EXPECT_EQ(model.ScrollPosition(), 19 * 110 + 100 - 12 - 250 + 16);
     model.SetRecords({{.width = 80, .height = 100}});
@@ -44,7 +44,7 @@ TEST(ThumbnailScroll, PositionFollowsAShrinkingDocument) {
 }
 
 TEST(ThumbnailModel, HitAndVisibleFollowTheScrolling) {
-    ThumbnailModel model = Column(20, 250);
+    Column model(20, 250);
     model.ScrollTo(300);
     EXPECT_EQ(model.HitTest(10, 40), 3u);  // 330..430 in the content
     EXPECT_EQ(model.HitTest(10, 20), std::nullopt);
@@ -56,7 +56,7 @@ TEST(ThumbnailModel, HitAndVisibleFollowTheScrolling) {
 }
 
 TEST(ThumbnailModel, OneCurrentPageAtMost) {
-    ThumbnailModel model = Column(5, 250);
+    Column model(5, 250);
     const auto marked = [&] {
         std::vector<std::size_t> indexes;
         for (std::size_t i = 0; i < model.Records().size(); ++i) {

@@ -1,0 +1,322 @@
+// What the user does with mouse and keyboard, turned into changes of the selection and into commands.
+#include "panes/thumbnails/drag_rules.h"
+#include "panes/thumbnails/thumbnail_control.h"
+#include "panes/thumbnails/thumbnail_menu.h"
+#include "ui/platform_geometry.h"
+
+#include <windowsx.h>
+
+namespace qz {
+
+namespace {
+
+POINT PointIn(LPARAM lParam) noexcept { return {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)}; }
+
+bool KeyIsDown(int key) noexcept { return GetKeyState(key) < 0; }
+
+ClickModifiers ModifiersOf(WPARAM keys) noexcept {
+    return {.shift = (keys & MK_SHIFT) || KeyIsDown(VK_SHIFT),
+            .control = (keys & MK_CONTROL) || KeyIsDown(VK_CONTROL)};
+}
+
+bool SameRequest(const MSG& one, const MSG& other) noexcept {
+    return one.message == other.message && one.time == other.time && one.wParam == other.wParam &&
+           one.lParam == other.lParam;
+}
+
+/// Where a menu opens that was asked for by key: in the middle of the visible part of a thumbnail.
+POINT MiddleOfVisible(const Rect& area, SIZE client) noexcept {
+    const Rect visible = area.Intersected({0, 0, client.cx, client.cy});
+    return {visible.left + visible.Width() / 2, visible.top + visible.Height() / 2};
+}
+
+}  // namespace
+
+void ThumbnailControl::OnWindowCreated() {
+    // A thread without OLE, or a container that has made the window its own drop target: no drops here.
+    Guard(__uuidof(IqzThumbnailCtrl), [this] { dropTarget_ = PageDropRegistration(WindowHandle(), *this); });
+}
+
+std::optional<LRESULT> ThumbnailControl::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+        case WM_DESTROY:
+            dropTarget_ = {};
+            return std::nullopt;
+        case WM_SETFOCUS:
+            ReadHeldKeys();
+            return std::nullopt;
+        case WM_KILLFOCUS:
+            held_ = {};
+            return std::nullopt;
+        case WM_CAPTURECHANGED:
+            press_.reset();
+            return 0;
+        case WM_CONTEXTMENU:
+            if (OnContextMenu(wParam, lParam)) return 0;
+            return std::nullopt;
+        case WM_KEYUP:
+            OnKeyUp(wParam);
+            return std::nullopt;
+        default:
+            break;
+    }
+    if (!binding_.Host()) return std::nullopt;
+    switch (message) {
+        case WM_VSCROLL:
+            if (scrollBar_.OnCommand(WindowHandle(), LOWORD(wParam))) Invalidate();
+            return 0;
+        case WM_MOUSEWHEEL:
+            if (scrollBar_.OnWheel(WindowHandle(), GET_WHEEL_DELTA_WPARAM(wParam))) Invalidate();
+            return 0;
+        case WM_LBUTTONDOWN:
+        case WM_LBUTTONDBLCLK:
+            OnButtonDown(PointIn(lParam));
+            return 0;
+        case WM_LBUTTONUP:
+            OnButtonUp(wParam);
+            return 0;
+        case WM_MOUSEMOVE:
+            OnMouseMove(wParam, PointIn(lParam));
+            return 0;
+        case WM_KEYDOWN:
+            if (OnKeyDown(wParam)) return 0;
+            return std::nullopt;
+        default:
+            return std::nullopt;
+    }
+}
+
+// Mouse
+// --------------------------------------------------------------------------------------------------------
+
+void ThumbnailControl::OnButtonDown(POINT point) {
+    SetCapture(WindowHandle());  // so that the release comes here wherever it happens
+    press_ = Press{point, model_.HitTest(point.x, point.y)};
+}
+
+void ThumbnailControl::OnButtonUp(WPARAM keys) {
+    const std::optional<Press> press = std::exchange(press_, std::nullopt);
+    if (GetCapture() == WindowHandle()) ReleaseCapture();
+    if (!press) return;
+    const ClickModifiers modifiers = ModifiersOf(keys);
+    if (press->record) {
+        Click(*press->record, modifiers);
+    } else {
+        Show(model_.Selection().ClickBeside(modifiers));
+    }
+}
+
+void ThumbnailControl::Click(std::size_t index, ClickModifiers modifiers) {
+    const ComPtr<IVandraX> host = binding_.Host();
+    const std::uint64_t generation = model_.Generation();
+    const bool plain = !modifiers.shift && !modifiers.control;
+    if (plain && !events_.ThumbActivated(static_cast<long>(index) + 1)) return;
+    if (!StillShows(host, generation)) return;
+    Show(model_.Selection().Click(index, modifiers));
+    if (plain && StillShows(host, generation)) GoToPage(index);
+}
+
+void ThumbnailControl::OnMouseMove(WPARAM keys, POINT point) {
+    if (!press_ || !press_->record || !(keys & MK_LBUTTON)) return;
+    if (!(settings_ & qzThumbnailCtrlSettings_PageMoveOrDragAndDrop)) return;
+    if (!DragStarts(FromPlatform(press_->point), FromPlatform(point))) return;
+    if (SystemSeesDrag(keys)) StartDrag(ModifiersOf(keys).control);
+}
+
+/// The system's own drag detection. It takes the mouse's messages from the queue: a button released meanwhile
+/// is a click here.
+bool ThumbnailControl::SystemSeesDrag(WPARAM keys) {
+    if (!KeyIsDown(VK_LBUTTON)) return false;
+    const std::optional<Press> press = press_;
+    const ComPtr<IVandraX> host = binding_.Host();
+    const std::uint64_t generation = model_.Generation();
+    POINT screen = press->point;
+    ClientToScreen(WindowHandle(), &screen);
+    const bool drags = DragDetect(WindowHandle(), screen) != FALSE;
+    if (!StillShows(host, generation) || !WindowHandle()) return false;
+    press_ = press;  // the detection took the capture, and the press went with it
+    if (!drags && KeyIsDown(VK_LBUTTON)) press_.reset();  // cancelled by key
+    if (!drags) OnButtonUp(keys);
+    return drags;
+}
+
+// Keyboard
+// -----------------------------------------------------------------------------------------------------
+
+bool ThumbnailControl::IsInputKey(const MSG& message) const {
+    if (!binding_.Host() || model_.Records().empty()) return false;
+    const auto& bounds = model_.Selection().GetBounds();
+    switch (message.wParam) {
+        case VK_HOME:
+        case VK_END:
+        case VK_LEFT:
+        case VK_UP:
+        case VK_RIGHT:
+        case VK_DOWN:
+        case VK_PRIOR:
+        case VK_NEXT:
+            return true;
+        // With nothing to do here these are the container's.
+        case VK_DELETE:
+        case VK_ESCAPE:
+            return bounds.has_value();
+        case VK_RETURN:
+            return bounds && bounds->first == bounds->last;
+        case 'A':
+        case 'C':
+        case 'V':
+        case 'X':
+            return (held_.control || KeyIsDown(VK_CONTROL)) && !KeyIsDown(VK_MENU);
+        default:
+            return false;
+    }
+}
+
+bool ThumbnailControl::OnKeyDown(WPARAM key) {
+    if (model_.Records().empty()) return false;
+    PageSelection& selection = model_.Selection();
+    const bool shift = held_.shift || KeyIsDown(VK_SHIFT);
+    switch (key) {
+        case VK_SHIFT:
+            held_.shift = true;
+            return true;
+        case VK_CONTROL:
+            held_.control = true;
+            return true;
+        case VK_HOME:
+            Show(selection.SelectFirst());
+            return true;
+        case VK_END:
+            Show(selection.SelectLast());
+            return true;
+        case VK_LEFT:
+        case VK_UP:
+            Show(selection.StepBack(shift));
+            return true;
+        case VK_RIGHT:
+        case VK_DOWN:
+            Show(selection.StepForward(shift));
+            return true;
+        case VK_PRIOR:
+            ScrollTo(std::int64_t{model_.ScrollPosition()} - model_.ClientHeight());
+            return true;
+        case VK_NEXT:
+            ScrollTo(std::int64_t{model_.ScrollPosition()} + model_.ClientHeight());
+            return true;
+        case VK_ESCAPE:
+            Show(selection.Clear());
+            return true;
+        case VK_RETURN:
+            OnReturn();
+            return true;
+        case VK_DELETE:
+            Run(PageCommand::Delete);
+            return true;
+        default:
+            return OnControlKey(key);
+    }
+}
+
+bool ThumbnailControl::OnControlKey(WPARAM key) {
+    if (!held_.control && !KeyIsDown(VK_CONTROL)) return false;
+    switch (key) {
+        case 'A':
+            held_.control = false;
+            Show(model_.Selection().SelectAll());
+            return true;
+        case 'C':
+            Run(PageCommand::Copy);
+            return true;
+        case 'X':
+            Run(PageCommand::Cut);
+            return true;
+        case 'V':
+            Run(PageCommand::Paste);
+            return true;
+        default:
+            return false;
+    }
+}
+
+void ThumbnailControl::OnKeyUp(WPARAM key) noexcept {
+    if (key == VK_SHIFT) held_.shift = false;
+    if (key == VK_CONTROL) held_.control = false;
+}
+
+/// Keys that were pressed or released elsewhere.
+void ThumbnailControl::ReadHeldKeys() noexcept { held_ = {KeyIsDown(VK_SHIFT), KeyIsDown(VK_CONTROL)}; }
+
+void ThumbnailControl::OnReturn() {
+    const auto bounds = model_.Selection().GetBounds();
+    if (!bounds || bounds->first != bounds->last) return;
+    const ComPtr<IVandraX> host = binding_.Host();
+    const std::uint64_t generation = model_.Generation();
+    if (!events_.ThumbActivated(static_cast<long>(bounds->first) + 1)) return;
+    if (!StillShows(host, generation)) return;
+    if (scrollBar_.ScrollIntoView(WindowHandle(), bounds->first)) Invalidate();
+    GoToPage(bounds->first);
+}
+
+// Effects
+// ------------------------------------------------------------------------------------------------------
+
+void ThumbnailControl::Show(const SelectionChange& change) {
+    if (change.reveal) scrollBar_.ScrollIntoView(WindowHandle(), *change.reveal);
+    if (change.repaint == SelectionChange::Repaint::Everything) UpdateNow();
+    if (change.repaint == SelectionChange::Repaint::Record) InvalidateRecord(change.record);
+    if (change.announced) events_.ThumbSelected(*change.announced);
+}
+
+/// Marks the record as the current page and takes the host there.
+void ThumbnailControl::GoToPage(std::size_t index) {
+    const ComPtr<IVandraX> host = binding_.Host();
+    const std::optional<std::size_t> before = model_.Current();
+    model_.MakeCurrent(index);
+    if (before && *before < model_.Records().size()) InvalidateRecord(*before);
+    InvalidateRecord(index);
+    const long page = static_cast<long>(index) + 1;
+    long current = 0;
+    ThrowIfFailed(host->GetCurrentPage(&current), L"The host does not tell its current page");
+    if (current != page) ThrowIfFailed(host->SetCurrentPage(page), L"The host does not go to the page");
+}
+
+// Context menu
+// -------------------------------------------------------------------------------------------------
+
+/// Whether the request is settled. With our menu off it goes on to the container, and the scroll bar has a
+/// menu of its own.
+bool ThumbnailControl::OnContextMenu(WPARAM wParam, LPARAM lParam) {
+    if (!(settings_ & qzThumbnailCtrlSettings_ContextMenu)) return false;
+    const bool byKeyboard = lParam == -1;
+    if (!byKeyboard && SendMessageW(WindowHandle(), WM_NCHITTEST, 0, lParam) == HTVSCROLL) return false;
+    MSG request{};
+    request.message = WM_CONTEXTMENU;
+    request.wParam = wParam;
+    request.lParam = lParam;
+    request.time = static_cast<DWORD>(GetMessageTime());
+    if (SameRequest(request, std::exchange(lastMenuRequest_, request))) return true;
+    const POINT screen = byKeyboard ? KeyboardMenuPoint() : PointIn(lParam);
+    if (!events_.ContextSensitiveMenu(screen.x, screen.y)) return true;
+    const ComPtr<IVandraX> host = binding_.Host();
+    const std::uint64_t generation = model_.Generation();
+    if (!host || !WindowHandle()) return true;
+    const auto command = ShowPageMenu(WindowHandle(), screen, TextLanguage(), CommandState());
+    if (command && StillShows(host, generation)) Run(*command);
+    return true;
+}
+
+/// Screen pixels: on the first selected thumbnail, which is scrolled into view, or at the pane's corner.
+POINT ThumbnailControl::KeyboardMenuPoint() {
+    POINT point{ThumbnailModel::drawMargin, ThumbnailModel::drawMargin};
+    if (const auto& bounds = model_.Selection().GetBounds()) {
+        if (scrollBar_.ScrollIntoView(WindowHandle(), bounds->first)) UpdateNow();
+        // The painting may have changed the records.
+        if (const auto& shown = model_.Selection().GetBounds()) {
+            point = MiddleOfVisible(model_.DrawnArea(shown->first), ClientSize());
+        }
+    }
+    ClientToScreen(WindowHandle(), &point);
+    return point;
+}
+
+}  // namespace qz
