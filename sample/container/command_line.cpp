@@ -39,6 +39,12 @@ bool ReadSize(CommandLine& line, const std::wstring& value) {
     return true;
 }
 
+bool ReadAnswer(CommandLine& line, const std::wstring& value) {
+    if (value != L"yes" && value != L"no") return false;
+    line.answer = value == L"yes";
+    return true;
+}
+
 struct Option {
     const wchar_t* name;
     const wchar_t* expects;
@@ -51,6 +57,7 @@ constexpr Option options[] = {
     {L"--manifest", L"a file name", [](auto& line, auto& value) { return ReadText(line.manifest, value); }},
     {L"--size", L"a size such as 1200x800", ReadSize},
     {L"--page", L"a page number", ReadPage},
+    {L"--answer", L"yes or no", ReadAnswer},
 };
 
 const Option* FindOption(const std::wstring& name) {

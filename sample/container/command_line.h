@@ -20,6 +20,7 @@ struct CommandLine {
     std::wstring readyFile;
     std::wstring manifest;           ///< Where classes are found instead of in the registry; empty: none.
     std::optional<WindowSize> size;  ///< Of the whole window, pixels.
+    std::optional<bool> answer;      ///< Given to every question instead of putting it to the user.
     int page = 1;                    ///< The page (1-based) to open the document at.
 };
 

@@ -1,6 +1,7 @@
 // The sample container: a window with the reference host and the module's panes beside it.
 //
-//     container [document.vdoc] [--page n] [--size WxH] [--manifest file] [--ready-file file]
+//     container [document.vdoc] [--page n] [--size WxH] [--answer yes|no] [--manifest file] [--ready-file
+//     file]
 #include "sample/container/activation_context.h"
 #include "sample/container/command_line.h"
 #include "sample/container/error_text.h"
@@ -97,7 +98,7 @@ int Run(const CommandLine& options, int showCommand) {
     const Libraries libraries;
     std::optional<ActivationContext> manifest;
     if (!options.manifest.empty()) manifest.emplace(options.manifest);
-    MainWindow window(options.size);
+    MainWindow window(options.size, options.answer);
     // The panes hear of the document as of any later one, and scroll to its page.
     window.AttachPanes();
     const std::wstring failure = OpenFirstDocument(window, options);

@@ -16,6 +16,7 @@ namespace {
 constexpr wchar_t programName[] = L"Sample Container";
 constexpr WindowSize preferredSize{1200, 860};  // at 96 dots per inch
 constexpr WindowSize smallestSize{420, 320};
+constexpr int logHeight = 96;
 
 /// In the middle of the primary screen's free part.
 RECT FirstBounds(std::optional<WindowSize> wanted) noexcept {
@@ -36,8 +37,8 @@ std::wstring FileName(const std::wstring& path) { return path.substr(path.find_l
 
 }  // namespace
 
-MainWindow::MainWindow(std::optional<WindowSize> size)
-    : frame_(MakeObject<InPlaceFrame>(static_cast<FrameShell&>(*this))) {
+MainWindow::MainWindow(std::optional<WindowSize> size, std::optional<bool> answer)
+    : frame_(MakeObject<InPlaceFrame>(static_cast<FrameShell&>(*this))), answer_(answer) {
     keys_ = LoadAcceleratorsW(ThisModule(), MAKEINTRESOURCEW(QZ_CONTAINER_KEYS));
     ThrowLastErrorIf(!keys_, L"The keyboard table is missing");
     AppWindowOptions options;
@@ -47,6 +48,7 @@ MainWindow::MainWindow(std::optional<WindowSize> size)
     options.title = programName;
     Create(options);
     status_.Create(Handle());
+    log_.Create(Handle());
     host_ = std::make_unique<HostView>([this] { positionStale_ = true; });
     MakeEnvironment();
     workspace_ = std::make_unique<Workspace>(Handle(), PaneTable(), environment_, *host_);
@@ -60,7 +62,19 @@ void MainWindow::MakeEnvironment() {
     environment_.fonts = MakeFonts(Handle());
     environment_.ambients->font = environment_.fonts.ambient;
     environment_.ambients->locale = MAKELCID(host_->Language(), SORT_DEFAULT);
-    environment_.log = [this](const std::wstring& line) { status_.ShowLine(line); };
+    environment_.log = [this](const std::wstring& line) { Log(line); };
+    environment_.ask = [this](const wchar_t* question) { return AskUser(question); };
+}
+
+void MainWindow::Log(const std::wstring& line) {
+    status_.ShowLine(line);
+    log_.Add(line);
+}
+
+/// What is asked cannot be undone, so the answer at hand is no.
+bool MainWindow::AskUser(const wchar_t* question) const noexcept {
+    if (answer_) return *answer_;
+    return MessageBoxW(Handle(), question, programName, MB_YESNO | MB_ICONQUESTION | MB_DEFBUTTON2) == IDYES;
 }
 
 void MainWindow::OpenDocument(const std::wstring& path, int page) {
@@ -149,9 +163,14 @@ void MainWindow::OnError(const std::wstring& text) noexcept { status_.ShowLine(t
 void MainWindow::OnSize() {
     if (!workspace_ || IsIconic(Handle())) return;
     status_.Layout(environment_.fonts.text.get());
+    log_.SetFont(environment_.fonts.text.get());
     const RECT client = ClientRect();
-    const int height = std::max(0, static_cast<int>(client.bottom) - status_.Height());
-    SetWindowPos(workspace_->Handle(), nullptr, 0, 0, client.right, height, SWP_NOZORDER | SWP_NOACTIVATE);
+    const int room = std::max(0, static_cast<int>(client.bottom) - status_.Height());
+    const int below = log_.Shown() ? std::min(Scaled(Handle(), logHeight), room / 2) : 0;
+    const Area logArea{0, room - below, static_cast<int>(client.right), below};
+    log_.Place(logArea);
+    SetWindowPos(workspace_->Handle(), nullptr, 0, 0, client.right, logArea.top,
+                 SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 void MainWindow::OnSettingsChanged() {

@@ -3,6 +3,7 @@
 
 #include "sample/container/app_window.h"
 #include "sample/container/command_line.h"
+#include "sample/container/event_log.h"
 #include "sample/container/host_view.h"
 #include "sample/container/in_place_frame.h"
 #include "sample/container/pane.h"
@@ -19,8 +20,9 @@ namespace qz {
 class MainWindow final : public AppWindow, private FrameShell {
   public:
     /// Creates the window, not shown yet, with the host and all panes. `size` in pixels, else a good part of
-    /// the screen. Throws when the host or a pane cannot be created.
-    explicit MainWindow(std::optional<WindowSize> size);
+    /// the screen; `answer` is taken for the user's to all questions. Throws when the host or a pane cannot
+    /// be created.
+    MainWindow(std::optional<WindowSize> size, std::optional<bool> answer);
     ~MainWindow() override;
 
     /// Opens a document at a page (1-based). On a failure throws; the document before stays.
@@ -55,6 +57,8 @@ class MainWindow final : public AppWindow, private FrameShell {
     void OnMinimumSize(MINMAXINFO& info) const noexcept;
     void MakeEnvironment();
     void ShowPosition();
+    void Log(const std::wstring& line);
+    bool AskUser(const wchar_t* question) const noexcept;
 
     // main_window_commands.cpp
     void OnCommand(WORD id);
@@ -66,6 +70,7 @@ class MainWindow final : public AppWindow, private FrameShell {
     void ChangeThumbnails(long step);
     void NextPane();
     void PreviousPane();
+    void ToggleEventLog();
     void FirstPage();
     void PreviousPage();
     void NextPage();
@@ -78,6 +83,8 @@ class MainWindow final : public AppWindow, private FrameShell {
     ComPtr<InPlaceFrame> frame_;
     PaneEnvironment environment_;
     StatusStrip status_;
+    EventLog log_;
+    std::optional<bool> answer_;
     std::unique_ptr<HostView> host_;
     std::unique_ptr<Workspace> workspace_;
     HACCEL keys_ = nullptr;

@@ -26,6 +26,7 @@ std::span<const MainWindow::Command> MainWindow::Commands() noexcept {
         {QZ_THUMBNAILS_SMALLER, &MainWindow::SmallerThumbnails, &MainWindow::HasThumbnails},
         {QZ_NEXT_PANE, &MainWindow::NextPane, nullptr},
         {QZ_PREVIOUS_PANE, &MainWindow::PreviousPane, nullptr},
+        {QZ_EVENT_LOG, &MainWindow::ToggleEventLog, nullptr},
         {QZ_PAGE_FIRST, &MainWindow::FirstPage, &MainWindow::HasPageBefore},
         {QZ_PAGE_PREVIOUS, &MainWindow::PreviousPage, &MainWindow::HasPageBefore},
         {QZ_PAGE_NEXT, &MainWindow::NextPage, &MainWindow::HasPageAfter},
@@ -77,6 +78,7 @@ void MainWindow::OnMenuOpens(HMENU menu) {
         const bool enabled = (this->*command.enabled)();
         EnableMenuItem(menu, command.id, MF_BYCOMMAND | (enabled ? MF_ENABLED : MF_GRAYED));
     }
+    CheckMenuItem(menu, QZ_EVENT_LOG, MF_BYCOMMAND | (log_.Shown() ? MF_CHECKED : MF_UNCHECKED));
     const LANGID current = host_->Language();
     for (const LanguageCommand& command : languageCommands) {
         if (PRIMARYLANGID(command.language) != PRIMARYLANGID(current)) continue;
@@ -116,6 +118,11 @@ void MainWindow::ChangeThumbnails(long step) {
 void MainWindow::NextPane() { workspace_->MoveFocus(false); }
 
 void MainWindow::PreviousPane() { workspace_->MoveFocus(true); }
+
+void MainWindow::ToggleEventLog() {
+    log_.Show(!log_.Shown());
+    OnSize();
+}
 
 /// Panes take their language from the host when they are attached.
 void MainWindow::ChangeLanguage(LANGID language) {

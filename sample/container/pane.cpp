@@ -10,6 +10,17 @@
 
 namespace qz {
 
+void HandlePaneEvent(const PaneRow& row, const PaneEnvironment& environment, ITypeInfo* info, DISPID event,
+                     DISPPARAMS& parameters) {
+    const std::wstring pane = std::wstring(row.title) + L": ";
+    const std::wstring raised = DescribeEvent(info, event, parameters);
+    environment.log(pane + raised);
+    if (!row.onEvent) return;
+    row.onEvent(event, parameters, environment.ask);
+    const std::wstring answered = DescribeEvent(info, event, parameters);
+    if (answered != raised) environment.log(pane + L"answered " + answered);
+}
+
 Pane::Pane(HWND parent, const PaneRow& row, const PaneEnvironment& environment)
     : row_(row), environment_(environment) {
     AppWindowOptions options;
@@ -50,14 +61,11 @@ void Pane::CreateControl() {
 void Pane::ConnectEvents() {
     const ComPtr<IDispatch> control = Control();
     const ComPtr<ITypeInfo> info = FindEventInfo(control.Get(), *row_.events);
-    events_.emplace(control.Get(), *row_.events, [this, info](DISPID event, DISPPARAMS& parameters) {
-        OnEvent(info.Get(), event, parameters);
-    });
-}
-
-/// This is the place to veto what a control announces: set the event's in/out parameter to 0.
-void Pane::OnEvent(ITypeInfo* info, DISPID event, const DISPPARAMS& parameters) {
-    environment_.log(std::wstring(row_.title) + L": " + DescribeEvent(info, event, parameters));
+    const auto handle = [&row = row_, &environment = environment_, info](DISPID event,
+                                                                         DISPPARAMS& parameters) {
+        HandlePaneEvent(row, environment, info.Get(), event, parameters);
+    };
+    events_.emplace(control.Get(), *row_.events, handle);
 }
 
 void Pane::Attach(IDispatch* host) {

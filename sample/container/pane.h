@@ -20,7 +20,13 @@ struct PaneEnvironment {
     std::shared_ptr<AmbientValues> ambients = std::make_shared<AmbientValues>();
     Fonts fonts;
     std::function<void(const std::wstring& line)> log;
+    Ask ask;
 };
+
+/// Logs an event of a pane's control and hands it to the row's handler; what the handler changes is logged
+/// too. The pane may be closed meanwhile, not so the row and the environment. `info` may be null.
+void HandlePaneEvent(const PaneRow& row, const PaneEnvironment& environment, ITypeInfo* info, DISPID event,
+                     DISPPARAMS& parameters);
 
 /// Sent to a pane's parent, by way of the queue, after the pane's control has lost the focus.
 inline constexpr UINT paneLostFocus = WM_APP + 1;
@@ -51,7 +57,6 @@ class Pane final : public AppWindow {
 
     void CreateControl();
     void ConnectEvents();
-    void OnEvent(ITypeInfo* info, DISPID event, const DISPPARAMS& parameters);
     void OnFocusChanged(bool got);
     void OnPaint();
 

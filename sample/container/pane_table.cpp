@@ -18,7 +18,7 @@ constexpr InitialProperty thumbnailProperties[] = {
 
 const PaneRow panes[] = {
     {L"Pages", &CLSID_qzThumbnailCtrl, DockSide::Left, 290, &DIID__IqzThumbnailCtrlEvents,
-     thumbnailProperties},
+     thumbnailProperties, AskBeforeDeletingPages},
 };
 
 }  // namespace

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "sample/container/layout.h"
+#include "sample/container/pane_events.h"
 
 #include <windows.h>
 
@@ -22,6 +23,7 @@ struct PaneRow {
     int extent;         ///< Preferred width, or height at the bottom, in pixels at 96 dots per inch.
     const IID* events;  ///< Its event dispinterface; null for a control without events.
     std::span<const InitialProperty> properties;
+    PaneEventHandler onEvent = nullptr;  ///< Null: events are only logged.
 };
 
 std::span<const PaneRow> PaneTable() noexcept;

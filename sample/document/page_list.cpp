@@ -12,13 +12,13 @@ std::shared_ptr<const Picture> MakePicture(std::shared_ptr<const std::vector<uin
 }
 
 int32_t PageList::NumberOf(PageId id) const {
-    const auto found = std::ranges::find(pages_, id, &Page::id);
+    const auto found = std::ranges::find(pages_, id, [](const auto& page) { return page->id; });
     return found == pages_.end() ? 0 : static_cast<int32_t>(found - pages_.begin()) + 1;
 }
 
 PageId PageList::Append(Page page) {
     page.id = ++lastId_;
-    pages_.push_back(std::move(page));
+    pages_.push_back(std::make_unique<Page>(std::move(page)));
     return lastId_;
 }
 

@@ -41,8 +41,8 @@ class PageList {
     int32_t Count() const { return static_cast<int32_t>(pages_.size()); }
     bool Holds(int32_t number) const { return number >= 1 && number <= Count(); }
 
-    const Page& At(int32_t number) const { return pages_[IndexOf(number)]; }
-    Page& At(int32_t number) { return pages_[IndexOf(number)]; }
+    const Page& At(int32_t number) const { return *pages_[IndexOf(number)]; }
+    Page& At(int32_t number) { return *pages_[IndexOf(number)]; }
 
     /// The number of a page, 0 when it is gone.
     int32_t NumberOf(PageId id) const;
@@ -62,7 +62,7 @@ class PageList {
         return static_cast<size_t>(number) - 1;
     }
 
-    std::vector<Page> pages_;
+    std::vector<std::unique_ptr<Page>> pages_;  // pointers: taking one out of a long list is cheap
     PageId lastId_ = 0;
 };
 

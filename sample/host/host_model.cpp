@@ -52,10 +52,11 @@ void HostModel::AppendPagesOf(const Document& other) {
 }
 
 void HostModel::DeletePage(int32_t number) {
-    const PageId current = CurrentPageId();
     const size_t selected = Selection().size();
     RemovePage(document_, number);
-    FollowCurrentPage(current);
+    // Without a search for the page: thousands are deleted in a row.
+    if (number < view_.currentPage) --view_.currentPage;
+    view_.currentPage = std::clamp(view_.currentPage, 1, document_.pages.Count());
     NoteContent(Selection().size() == selected ? change::pages : change::pages | change::selection);
     selection_ = Selection();
 }

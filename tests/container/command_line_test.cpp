@@ -18,14 +18,15 @@ std::optional<CommandLine> Parse(const std::vector<std::wstring>& arguments) {
 }  // namespace
 
 TEST(CommandLine, TakesOptionsInAnyOrder) {
-    const auto line = Parse(
-        {L"--page", L"12", L"a b.vdoc", L"--size", L"800x600", L"--ready-file", L"r", L"--manifest", L"m"});
+    const auto line = Parse({L"--page", L"12", L"a b.vdoc", L"--size", L"800x600", L"--ready-file", L"r",
+                             L"--manifest", L"m", L"--answer", L"no"});
     ASSERT_TRUE(line);
     EXPECT_EQ(line->document, L"a b.vdoc");
     EXPECT_EQ(line->page, 12);
     EXPECT_EQ(line->size, (WindowSize{800, 600}));
     EXPECT_EQ(line->readyFile, L"r");
     EXPECT_EQ(line->manifest, L"m");
+    EXPECT_EQ(line->answer, false);
 }
 
 TEST(CommandLine, NothingIsGoodEnough) {
@@ -33,6 +34,7 @@ TEST(CommandLine, NothingIsGoodEnough) {
     ASSERT_TRUE(line);
     EXPECT_TRUE(line->document.empty());
     EXPECT_EQ(line->page, 1);
+    EXPECT_FALSE(line->answer.has_value()) << "the user is asked";
 }
 
 TEST(CommandLine, RefusesWhatItDoesNotUnderstand) {
@@ -48,6 +50,8 @@ TEST(CommandLine, RefusesWhatItDoesNotUnderstand) {
         {L"--size", L"0x0"},
         {L"--ready-file", L""},
         {L"--page", L"99999999999999999999"},
+        {L"--answer"},
+        {L"--answer", L"maybe"},
         {L"--colour"},
         {L"one", L"two"},
     };
