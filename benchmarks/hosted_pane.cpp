@@ -1,6 +1,9 @@
 #include "benchmarks/hosted_pane.h"
 
+#include "panes/thumbnails/page_numbers.h"
 #include "sample/host/reference_host.h"
+
+#include <vector>
 
 namespace qz::bench {
 
@@ -28,10 +31,20 @@ void PumpMessages() {
 
 }  // namespace
 
+void NewDocument(IReferenceHost* host, long pages) {
+    ThrowIfFailed(host->NewDocument(pages, letterWidth, letterHeight), L"The host makes no document");
+}
+
 ComPtr<IReferenceHost> MakeHost(long pages) {
     ComPtr<IReferenceHost> host = MakeObject<sample::MemoryHost>();
-    ThrowIfFailed(host->NewDocument(pages, letterWidth, letterHeight), L"The host makes no document");
+    NewDocument(host.Get(), pages);
     return host;
+}
+
+_variant_t EverySecondPage(long pages) {
+    std::vector<long> odd;
+    for (long page = 1; page <= pages; page += 2) odd.push_back(page);
+    return MakePageNumbers(odd);
 }
 
 HostedPane::HostedPane(long pages, Shown shown) : host_(MakeHost(pages)), pane_(MakePane(module_)) {

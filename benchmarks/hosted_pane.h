@@ -7,10 +7,18 @@
 #include "generated/qzVandraExt.h"
 #include "generated/reference_host.h"
 
+#include <comdef.h>
+
 namespace qz::bench {
+
+/// Gives a host a new document of that many pages of US Letter size.
+void NewDocument(IReferenceHost* host, long pages);
 
 /// A reference host with that many pages of US Letter size.
 ComPtr<IReferenceHost> MakeHost(long pages);
+
+/// The odd page numbers up to `pages`, as a pane takes and gives its selection.
+_variant_t EverySecondPage(long pages);
 
 /// A pane on a host of its own. Hidden, it lays out but does not paint.
 class HostedPane {

@@ -16,6 +16,8 @@ using namespace qz::bench;
 void RunAll() {
     Report report;
     MeasureRebuild(report);
+    MeasureSelecting(report);
+    MeasureDeletion(report);
     MeasureGrowth(report);
     MeasurePictures(report);
     MeasureCopying(report);

@@ -8,6 +8,12 @@ namespace qz::bench {
 /// Rebuilding the records of long documents, against a bare loop of the same host calls.
 void MeasureRebuild(Report& report);
 
+/// Putting and reading the selection of long documents.
+void MeasureSelecting(Report& report);
+
+/// Deleting half the pages of a long document with the Delete key, against the bare host calls.
+void MeasureDeletion(Report& report);
+
 /// One paint, one hit test, one scroll step in a very long document, against a short one.
 void MeasureGrowth(Report& report);
 
