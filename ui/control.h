@@ -150,8 +150,10 @@ class Control : public IOleObject,
     virtual void OnWindowCreated() {}
     /// The window got another client size, pixels. Called after OnWindowCreated first.
     virtual void OnSized(SIZE client);
-    /// True for a key message (WM_KEYDOWN, WM_SYSKEYDOWN, ...) that the control wants for itself, such as
-    /// arrows. Tab is never asked for: it leaves the control.
+    /// The child window that has the focus when the control gets it; null for the control's own window.
+    virtual HWND FocusChild() const noexcept { return nullptr; }
+    /// True for a key message (WM_KEYDOWN, WM_SYSKEYDOWN, ...) to the control's window or a child of it that
+    /// the control wants for itself, such as arrows. Tab is never asked for: it leaves the control.
     virtual bool IsInputKey(const MSG& message) const;
     /// An ambient property changed (DISPID_UNKNOWN: several).
     virtual void OnAmbientChanged(DISPID id);
@@ -255,7 +257,8 @@ class Control : public IOleObject,
 
     // control_messages.cpp
     std::optional<LRESULT> HandleMessage(UINT message, WPARAM wParam, LPARAM lParam);
-    void Anticipate(UINT message, WPARAM wParam);
+    void Anticipate(UINT message, WPARAM wParam, LPARAM lParam);
+    void OnChildFocus(bool got, HWND other);
     std::optional<LRESULT> HandleDefault(UINT message, WPARAM wParam, LPARAM lParam);
     void Paint();
 
@@ -289,6 +292,7 @@ class Control : public IOleObject,
     bool leaving_ = false;
     bool inPlaceActive_ = false;
     bool uiActive_ = false;
+    bool focusTold_ = false;  ///< The container knows that the control, or a child of it, has the focus.
     bool dirty_ = false;
     bool loaded_ = false;
 };

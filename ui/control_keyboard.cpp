@@ -57,6 +57,7 @@ void Control::TakeFocus() noexcept {
 }
 
 void Control::TellFocus(bool has) noexcept {
+    if (std::exchange(focusTold_, has) == has) return;  // it went from one window of the control to another
     ComPtr<IOleControlSite> site;
     if (site_ && SUCCEEDED(site_.As(&site))) site->OnFocus(has);
 }

@@ -1,6 +1,7 @@
 // The messages of the control's window, around those that the derived control handles.
 #include "ui/control.h"
 
+#include "ui/child_window.h"
 #include "ui/gdi.h"
 
 namespace qz {
@@ -8,7 +9,7 @@ namespace qz {
 void Control::OnMessageFailed(UINT, HRESULT) noexcept { ShowErrorInDebugger(); }
 
 std::optional<LRESULT> Control::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-    Anticipate(message, wParam);
+    Anticipate(message, wParam, lParam);
     // The container may have taken the window away.
     if (!window_.Handle()) return 0;
     if (const auto result = OnMessage(message, wParam, lParam)) return result;
@@ -16,7 +17,7 @@ std::optional<LRESULT> Control::HandleMessage(UINT message, WPARAM wParam, LPARA
 }
 
 /// What must happen whatever the derived control does with the message.
-void Control::Anticipate(UINT message, WPARAM wParam) {
+void Control::Anticipate(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
         case WM_CREATE:
             return OnWindowCreated();
@@ -35,13 +36,28 @@ void Control::Anticipate(UINT message, WPARAM wParam) {
         case WM_KILLFOCUS:
             if (!Owns(reinterpret_cast<HWND>(wParam))) TellFocus(false);
             return;
+        case childFocusMessage:
+            return OnChildFocus(wParam != 0, reinterpret_cast<HWND>(lParam));
         default:
             return;
     }
 }
 
+/// The focus in one of the control's child windows is the control's.
+void Control::OnChildFocus(bool got, HWND other) {
+    if (got) {
+        if (UserMode()) ActivateUserInterface();
+        TellFocus(true);
+    } else if (!Owns(other)) {
+        TellFocus(false);
+    }
+}
+
 std::optional<LRESULT> Control::HandleDefault(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
+        case WM_SETFOCUS:
+            if (const HWND child = FocusChild()) SetFocus(child);
+            return {};
         case WM_ERASEBKGND:
             return 1;  // OnDraw fills the background
         case WM_PAINT:

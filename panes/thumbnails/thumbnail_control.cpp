@@ -1,9 +1,9 @@
 // The pane's members, its tie to the host, and its records.
 #include "panes/thumbnails/thumbnail_control.h"
 
+#include "host/page_count.h"
 #include "host/page_sizes.h"
 #include "panes/thumbnails/host_changes.h"
-#include "panes/thumbnails/own_host_calls.h"
 #include "panes/thumbnails/page_drag.h"
 #include "panes/thumbnails/page_numbers.h"
 
@@ -27,58 +27,25 @@ ThumbnailControl::ThumbnailControl() : events_(Identity(), [this] { return Event
 }
 
 void ThumbnailControl::FinalRelease() noexcept {
-    binding_.Detach();
     events_.Point().DisconnectAll();
-    Control::FinalRelease();
+    PaneControl::FinalRelease();
 }
 
 // Members
 // ------------------------------------------------------------------------------------------------------
 
 STDMETHODIMP ThumbnailControl::Initialize(IDispatch* pDispatch) {
-    const ComPtr<IUnknown> alive = Identity();
-    return Guard(__uuidof(IqzThumbnailCtrl), [&] {
-        Attach(pDispatch);
-        ScrollTo(0);
-        RebuildAndMarkCurrent();
-    });
+    return InitializePane(__uuidof(IqzThumbnailCtrl), pDispatch);
 }
 
-void ThumbnailControl::Attach(IDispatch* host) {
-    const OwnHostCalls ours(ownHostCalls_);
-    try {
-        binding_.Attach(host);
-    } catch (...) {
-        if (!binding_.Host()) LetGo();
-        throw;
-    }
-    try {
-        const ComPtr<IVandraX> attached = binding_.Host();
-        if (!attached) Throw(E_ABORT, L"The pane was reset while it was being attached");
-        PageCountOf(attached.Get());
-    } catch (...) {
-        LetGo();
-        throw;
-    }
-    if (const HWND window = WindowHandle()) SetWindowTextW(window, Title().c_str());
-}
+STDMETHODIMP ThumbnailControl::Reset() { return ResetPane(__uuidof(IqzThumbnailCtrl)); }
 
-void ThumbnailControl::LetGo() {
-    binding_.Detach();
-    TakeRecords({});
-}
-
-STDMETHODIMP ThumbnailControl::Reset() {
-    if (!binding_.Host()) return S_OK;
-    const ComPtr<IUnknown> alive = Identity();
-    return Guard(__uuidof(IqzThumbnailCtrl), [&] {
-        OleFlushClipboard();  // pages of this document on the clipboard outlive the pane
-        LetGo();
-    });
+STDMETHODIMP ThumbnailControl::get_IsInitialized(long* pVal) {
+    return TellInitialized(__uuidof(IqzThumbnailCtrl), pVal);
 }
 
 STDMETHODIMP ThumbnailControl::ScrollPageThumbIntoView(long page) {
-    if (!binding_.Host()) return S_OK;
+    if (!Host()) return S_OK;
     const ComPtr<IUnknown> alive = Identity();
     return Guard(__uuidof(IqzThumbnailCtrl), [&] {
         if (page < 1 || static_cast<std::size_t>(page) > model_.Records().size()) {
@@ -86,13 +53,6 @@ STDMETHODIMP ThumbnailControl::ScrollPageThumbIntoView(long page) {
         }
         scrollBar_.ScrollIntoView(WindowHandle(), static_cast<std::size_t>(page) - 1);
         Invalidate();
-    });
-}
-
-STDMETHODIMP ThumbnailControl::get_IsInitialized(long* pVal) {
-    return Guard(__uuidof(IqzThumbnailCtrl), [&] {
-        RequirePointer(pVal);
-        *pVal = binding_.Host() ? 1 : 0;
     });
 }
 
@@ -153,6 +113,23 @@ STDMETHODIMP ThumbnailControl::SettingsChange(long enabled, qzThumbnailCtrlSetti
     return put_Settings(static_cast<qzThumbnailCtrlSettings>(changed));
 }
 
+// The host
+// -----------------------------------------------------------------------------------------------------
+
+void ThumbnailControl::CheckHost(IVandraX* host) { PageCountOf(host); }
+
+void ThumbnailControl::ShowDocument() {
+    ScrollTo(0);
+    RebuildAndMarkCurrent();
+}
+
+void ThumbnailControl::ForgetDocument() { TakeRecords({}); }
+
+/// Pages of this document that are on the clipboard outlive the pane.
+void ThumbnailControl::OnReset() { OleFlushClipboard(); }
+
+void ThumbnailControl::FollowHost() { Follow(Pages::AskHost); }
+
 // Records
 // ------------------------------------------------------------------------------------------------------
 
@@ -163,12 +140,12 @@ void ThumbnailControl::RebuildAndMarkCurrent() {
 }
 
 void ThumbnailControl::Rebuild() {
-    const ComPtr<IVandraX> host = binding_.Host();
+    const ComPtr<IVandraX> host = Host();
     std::vector<ThumbnailRecord> records;
     // The records there were stay until the new ones have been read: emptying the pane first would lose the
     // scroll position, and hide the scroll bar only to show it again.
     const auto take = [&] {
-        if (binding_.Host() == host) TakeRecords(std::move(records));
+        if (Host() == host) TakeRecords(std::move(records));
     };
     try {
         if (host) ReadRecords(host.Get(), records);
@@ -181,7 +158,7 @@ void ThumbnailControl::Rebuild() {
 
 /// Appends a record for each page; those read before a failure are in `records` when it throws.
 void ThumbnailControl::ReadRecords(IVandraX* host, std::vector<ThumbnailRecord>& records) {
-    const OwnHostCalls ours(ownHostCalls_);
+    const OwnHostCalls ours(*this);
     const long count = PageCountOf(host);
     records.reserve(static_cast<std::size_t>(std::clamp(count, 0l, 1l << 20)));
     recordFactor_ = sizeFactor;
@@ -207,11 +184,11 @@ void ThumbnailControl::ForgetDrag() {
 
 /// Whether, after foreign code has run, page numbers and indexes taken before it still mean the same.
 bool ThumbnailControl::StillShows(const ComPtr<IVandraX>& host, std::uint64_t generation) const noexcept {
-    return host && binding_.Host() == host && model_.Generation() == generation;
+    return host && Host() == host && model_.Generation() == generation;
 }
 
 void ThumbnailControl::MarkCurrent() {
-    const ComPtr<IVandraX> host = binding_.Host();
+    const ComPtr<IVandraX> host = Host();
     if (!host) return;
     long page = 0;
     ThrowIfFailed(host->GetCurrentPage(&page), L"The host does not tell its current page");
@@ -222,16 +199,9 @@ void ThumbnailControl::MarkCurrent() {
 // The host's changes
 // -------------------------------------------------------------------------------------------
 
-void ThumbnailControl::OnHostChanged() noexcept {
-    if (ownHostCalls_ > 0 || !binding_.Host()) return;
-    const ComPtr<IUnknown> alive = Identity();
-    // Nobody asked, so nobody is told of a failure: the pane shows what it could learn.
-    Guard(__uuidof(IqzThumbnailCtrl), [this] { FollowHost(Pages::AskHost); });
-}
-
 /// Reads from the host what changed; that the pages did is known already when the pane itself changed them.
-void ThumbnailControl::FollowHost(Pages pages) {
-    const ComPtr<IVandraX> host = binding_.Host();
+void ThumbnailControl::Follow(Pages pages) {
+    const ComPtr<IVandraX> host = Host();
     long page = 0;
     long flags = 0;
     ThrowIfFailed(host->GetCurrentPage(&page), L"The host does not tell its current page");

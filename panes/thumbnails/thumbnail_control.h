@@ -4,7 +4,8 @@
 #include "com/class_info.h"
 #include "com/connection_points.h"
 #include "com/dispatch.h"
-#include "host/host_binding.h"
+#include "panes/common/menu_request.h"
+#include "panes/common/pane_control.h"
 #include "panes/thumbnails/drag_picture.h"
 #include "panes/thumbnails/page_commands.h"
 #include "panes/thumbnails/page_drop_target.h"
@@ -12,8 +13,6 @@
 #include "panes/thumbnails/thumbnail_model.h"
 #include "panes/thumbnails/thumbnail_painter.h"
 #include "panes/thumbnails/thumbnail_scroll_bar.h"
-#include "res/language.h"
-#include "ui/control.h"
 
 #include "generated/qzVandraExt.h"
 
@@ -33,10 +32,9 @@ struct HeldKeys {
 
 /// See the type library for the members. Those with a host return S_OK and do nothing without one.
 class ThumbnailControl final
-    : public Object<ThumbnailControl, Control, Dispatch<IqzThumbnailCtrl>,
+    : public Object<ThumbnailControl, PaneControl, Dispatch<IqzThumbnailCtrl>,
                     ProvideClassInfo<CLSID_qzThumbnailCtrl, DIID__IqzThumbnailCtrlEvents>,
                     ConnectionPointContainer>,
-      private HostListener,
       private PageDropListener {
   public:
     ThumbnailControl();
@@ -62,15 +60,17 @@ class ThumbnailControl final
     REFCLSID ClassId() const noexcept override { return CLSID_qzThumbnailCtrl; }
     std::span<const PersistentProperty> PersistentProperties() const override;
     std::vector<ConnectionPoint*> Points() override { return {&events_.Point(), &PropertyNotifyPoint()}; }
-    void OnHostChanged() noexcept override;
+    void CheckHost(IVandraX* host) override;
+    void ShowDocument() override;
+    void ForgetDocument() override;
+    void FollowHost() override;
+    void OnReset() override;
 
-    void Attach(IDispatch* host);
-    void LetGo();
     void RebuildAndMarkCurrent();
     void Rebuild();
     void ReadRecords(IVandraX* host, std::vector<ThumbnailRecord>& records);
     enum class Pages { AskHost, Changed };
-    void FollowHost(Pages pages);
+    void Follow(Pages pages);
     void TakeRecords(std::vector<ThumbnailRecord> records);
     void ForgetDrag();
     void MarkCurrent();
@@ -78,7 +78,6 @@ class ThumbnailControl final
 
     // thumbnail_control_view.cpp: drawing and scrolling
     std::wstring Title() const override;
-    Language TextLanguage() const { return LanguageFromId(binding_.LanguageId()); }
     OLE_COLOR InitialBackColor() const override { return RGB(255, 255, 255); }
     void OnDraw(HDC dc, const RECT& bounds) override;
     void OnSized(SIZE client) override;
@@ -137,20 +136,17 @@ class ThumbnailControl final
     ThumbnailModel model_;
     ThumbnailPainter painter_{model_};
     ThumbnailScrollBar scrollBar_{model_};
-    HostBinding binding_{*this};
     ThumbnailEvents events_;
     PageDropRegistration dropTarget_;
     /// The size factor that the records were made with: a new one shows from the next rebuild on, also in the
     /// pictures drawn until then.
     long recordFactor_ = 0;
-    /// Non-zero while the pane itself calls the host, whose notifications then tell it nothing new.
-    int ownHostCalls_ = 0;
     long settings_ = qzThumbnailCtrlSettings_ContextMenu | qzThumbnailCtrlSettings_PageMoveOrDragAndDrop;
     std::optional<Press> press_;
     HeldKeys held_;
     /// The record that was pressed to start the drag now under way.
     std::optional<std::size_t> draggedRecord_;
-    MSG lastMenuRequest_{};
+    MenuRequest lastMenuRequest_;
 };
 
 }  // namespace qz

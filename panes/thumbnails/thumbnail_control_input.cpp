@@ -19,11 +19,6 @@ ClickModifiers ModifiersOf(WPARAM keys) noexcept {
             .control = (keys & MK_CONTROL) || KeyIsDown(VK_CONTROL)};
 }
 
-bool SameRequest(const MSG& one, const MSG& other) noexcept {
-    return one.message == other.message && one.time == other.time && one.wParam == other.wParam &&
-           one.lParam == other.lParam;
-}
-
 /// Where a menu opens that was asked for by key: in the middle of the visible part of a thumbnail.
 POINT MiddleOfVisible(const Rect& area, SIZE client) noexcept {
     const Rect visible = area.Intersected({0, 0, client.cx, client.cy});
@@ -60,7 +55,7 @@ std::optional<LRESULT> ThumbnailControl::OnMessage(UINT message, WPARAM wParam, 
         default:
             break;
     }
-    if (!binding_.Host()) return std::nullopt;
+    if (!Host()) return std::nullopt;
     switch (message) {
         case WM_VSCROLL:
             if (scrollBar_.OnCommand(WindowHandle(), LOWORD(wParam))) Invalidate();
@@ -107,7 +102,7 @@ void ThumbnailControl::OnButtonUp(WPARAM keys) {
 }
 
 void ThumbnailControl::Click(std::size_t index, ClickModifiers modifiers) {
-    const ComPtr<IVandraX> host = binding_.Host();
+    const ComPtr<IVandraX> host = Host();
     const std::uint64_t generation = model_.Generation();
     const bool plain = !modifiers.shift && !modifiers.control;
     if (plain && !events_.ThumbActivated(static_cast<long>(index) + 1)) return;
@@ -128,7 +123,7 @@ void ThumbnailControl::OnMouseMove(WPARAM keys, POINT point) {
 bool ThumbnailControl::SystemSeesDrag(WPARAM keys) {
     if (!KeyIsDown(VK_LBUTTON)) return false;
     const std::optional<Press> press = press_;
-    const ComPtr<IVandraX> host = binding_.Host();
+    const ComPtr<IVandraX> host = Host();
     const std::uint64_t generation = model_.Generation();
     POINT screen = press->point;
     ClientToScreen(WindowHandle(), &screen);
@@ -144,7 +139,7 @@ bool ThumbnailControl::SystemSeesDrag(WPARAM keys) {
 // -----------------------------------------------------------------------------------------------------
 
 bool ThumbnailControl::IsInputKey(const MSG& message) const {
-    if (!binding_.Host() || model_.Records().empty()) return false;
+    if (!Host() || model_.Records().empty()) return false;
     const auto& bounds = model_.Selection().GetBounds();
     switch (message.wParam) {
         case VK_HOME:
@@ -249,7 +244,7 @@ void ThumbnailControl::ReadHeldKeys() noexcept { held_ = {KeyIsDown(VK_SHIFT), K
 void ThumbnailControl::OnReturn() {
     const auto bounds = model_.Selection().GetBounds();
     if (!bounds || bounds->first != bounds->last) return;
-    const ComPtr<IVandraX> host = binding_.Host();
+    const ComPtr<IVandraX> host = Host();
     const std::uint64_t generation = model_.Generation();
     if (!events_.ThumbActivated(static_cast<long>(bounds->first) + 1)) return;
     if (!StillShows(host, generation)) return;
@@ -269,7 +264,7 @@ void ThumbnailControl::Show(const SelectionChange& change) {
 
 /// Marks the record as the current page and takes the host there.
 void ThumbnailControl::GoToPage(std::size_t index) {
-    const ComPtr<IVandraX> host = binding_.Host();
+    const ComPtr<IVandraX> host = Host();
     const std::optional<std::size_t> before = model_.Current();
     model_.MakeCurrent(index);
     if (before && *before < model_.Records().size()) InvalidateRecord(*before);
@@ -287,17 +282,14 @@ void ThumbnailControl::GoToPage(std::size_t index) {
 /// menu of its own.
 bool ThumbnailControl::OnContextMenu(WPARAM wParam, LPARAM lParam) {
     if (!(settings_ & qzThumbnailCtrlSettings_ContextMenu)) return false;
-    const bool byKeyboard = lParam == -1;
-    if (!byKeyboard && SendMessageW(WindowHandle(), WM_NCHITTEST, 0, lParam) == HTVSCROLL) return false;
-    MSG request{};
-    request.message = WM_CONTEXTMENU;
-    request.wParam = wParam;
-    request.lParam = lParam;
-    request.time = static_cast<DWORD>(GetMessageTime());
-    if (SameRequest(request, std::exchange(lastMenuRequest_, request))) return true;
-    const POINT screen = byKeyboard ? KeyboardMenuPoint() : PointIn(lParam);
+    const MenuRequest request(wParam, lParam);
+    if (!request.ByKeyboard() && SendMessageW(WindowHandle(), WM_NCHITTEST, 0, lParam) == HTVSCROLL) {
+        return false;
+    }
+    if (std::exchange(lastMenuRequest_, request) == request) return true;
+    const POINT screen = request.ByKeyboard() ? KeyboardMenuPoint() : request.ScreenPoint();
     if (!events_.ContextSensitiveMenu(screen.x, screen.y)) return true;
-    const ComPtr<IVandraX> host = binding_.Host();
+    const ComPtr<IVandraX> host = Host();
     const std::uint64_t generation = model_.Generation();
     if (!host || !WindowHandle()) return true;
     const auto command = ShowPageMenu(WindowHandle(), screen, TextLanguage(), CommandState());

@@ -1,12 +1,11 @@
 // What the pane does with the selected pages: delete, cut, copy, paste, drag and drop.
+#include "host/auto_refresh.h"
+#include "host/page_count.h"
 #include "panes/thumbnails/drag_rules.h"
-#include "panes/thumbnails/own_host_calls.h"
 #include "panes/thumbnails/page_clipboard.h"
 #include "panes/thumbnails/page_drag.h"
 #include "panes/thumbnails/page_operations.h"
 #include "panes/thumbnails/thumbnail_control.h"
-
-#include "host/auto_refresh.h"
 #include "res/strings.h"
 #include "res/text_ids.h"
 
@@ -37,7 +36,7 @@ class DraggedRecordScope {
 // -----------------------------------------------------------------------------------------------------
 
 PageCommandState ThumbnailControl::CommandState() const {
-    const ComPtr<IVandraX> host = binding_.Host();
+    const ComPtr<IVandraX> host = Host();
     return {.selected = model_.Selection().Count(),
             .pageCount = PageCountOf(host.Get()),
             .clipboardHasPages = PagesOnClipboard() != nullptr};
@@ -66,13 +65,13 @@ void ThumbnailControl::Run(PageCommand command) {
 void ThumbnailControl::Copy() {
     const std::vector<long> pages = model_.Selection().Pages();
     if (pages.empty()) return;
-    const ComPtr<IVandraX> host = binding_.Host();
-    const OwnHostCalls ours(ownHostCalls_);
+    const ComPtr<IVandraX> host = Host();
+    const OwnHostCalls ours(*this);
     PutPagesOnClipboard(host.Get(), pages);
 }
 
 void ThumbnailControl::Cut() {
-    const ComPtr<IVandraX> host = binding_.Host();
+    const ComPtr<IVandraX> host = Host();
     const std::uint64_t generation = model_.Generation();
     const std::vector<long> pages = model_.Selection().Pages();
     if (pages.empty() || RefusesToDelete(host.Get(), pages.size())) return;
@@ -90,7 +89,7 @@ void ThumbnailControl::Paste() {
 
 /// The container is asked first.
 void ThumbnailControl::DeleteSelected() {
-    const ComPtr<IVandraX> host = binding_.Host();
+    const ComPtr<IVandraX> host = Host();
     const std::uint64_t generation = model_.Generation();
     const std::vector<long> pages = model_.Selection().Pages();
     if (pages.empty() || RefusesToDelete(host.Get(), pages.size())) return;
@@ -120,7 +119,7 @@ void ThumbnailControl::DeletePagesOf(const ComPtr<IVandraX>& host, std::vector<l
 /// end, and the pane reads its records anew before that, also when the change failed midway.
 template <class Change>
 void ThumbnailControl::ChangePages(const ComPtr<IVandraX>& host, Change&& change) {
-    const OwnHostCalls ours(ownHostCalls_);
+    const OwnHostCalls ours(*this);
     const qzVandraAutoRefresh suspended(host.Get());
     std::exception_ptr failure;
     try {
@@ -129,7 +128,7 @@ void ThumbnailControl::ChangePages(const ComPtr<IVandraX>& host, Change&& change
         failure = std::current_exception();
     }
     host->UpdateView(pagesChanged, 1);
-    if (binding_.Host() == host) FollowOwnChange();
+    if (Host() == host) FollowOwnChange();
     host->UpdateView(0, 0);
     if (failure) std::rethrow_exception(failure);
 }
@@ -137,9 +136,9 @@ void ThumbnailControl::ChangePages(const ComPtr<IVandraX>& host, Change&& change
 /// Nobody will tell the pane again of what it has changed itself: one failure is not taken as final.
 void ThumbnailControl::FollowOwnChange() {
     const auto follow = [this] {
-        return Guard(__uuidof(IqzThumbnailCtrl), [this] { FollowHost(Pages::Changed); });
+        return Guard(__uuidof(IqzThumbnailCtrl), [this] { Follow(Pages::Changed); });
     };
-    if (FAILED(follow()) && binding_.Host()) follow();
+    if (FAILED(follow()) && Host()) follow();
 }
 
 // Inserting
@@ -150,7 +149,7 @@ void ThumbnailControl::FollowOwnChange() {
 /// the end, whatever comes between.
 long ThumbnailControl::InsertFrom(IDataObject* data, std::optional<std::size_t> target,
                                   std::vector<long> moved) {
-    const ComPtr<IVandraX> host = binding_.Host();
+    const ComPtr<IVandraX> host = Host();
     const std::uint64_t generation = model_.Generation();
     const Insertion where{InsertionPoint(target), std::move(moved)};
     long inserted = 0;
@@ -180,7 +179,7 @@ long ThumbnailControl::InsertionPoint(std::optional<std::size_t> target) const {
 /// Only a range without gaps can be moved; held Ctrl says at the start that the pages are to be copied.
 void ThumbnailControl::StartDrag(bool copies) {
     const std::size_t pressed = *press_->record;
-    const ComPtr<IVandraX> host = binding_.Host();
+    const ComPtr<IVandraX> host = Host();
     if (GetCapture() == WindowHandle()) ReleaseCapture();
     press_.reset();
     if (!model_.Selection().GetBounds()) {
@@ -213,7 +212,7 @@ void ThumbnailControl::DragSelection(const ComPtr<IVandraX>& host, std::size_t p
 
 /// The selected pages and, when it stands among them, the current one.
 DragPicture ThumbnailControl::PictureOfDrag(IVandraX* host) {
-    const OwnHostCalls ours(ownHostCalls_);
+    const OwnHostCalls ours(*this);
     const auto bounds = *model_.Selection().GetBounds();
     std::vector<std::size_t> shown;
     for (std::size_t i = bounds.first; i <= bounds.last; ++i) {
@@ -226,7 +225,7 @@ DragPicture ThumbnailControl::PictureOfDrag(IVandraX* host) {
 // -----------------------------------------------------------------------------------------------------
 
 bool ThumbnailControl::AcceptsDrops() {
-    return binding_.Host() && (settings_ & qzThumbnailCtrlSettings_PageMoveOrDragAndDrop);
+    return Host() && (settings_ & qzThumbnailCtrlSettings_PageMoveOrDragAndDrop);
 }
 
 void ThumbnailControl::OnDragOver(POINT client) {
@@ -244,7 +243,7 @@ DWORD ThumbnailControl::OnDrop(IDataObject* data, POINT client, DWORD effect) {
     std::optional<std::size_t> target = model_.HitTest(client.x, client.y);
     if (target == draggedRecord_) target.reset();
     SetDropTarget(std::nullopt);
-    const ComPtr<IVandraX> host = binding_.Host();
+    const ComPtr<IVandraX> host = Host();
     PageDrag* const drag = effect == DROPEFFECT_MOVE ? CurrentPageDragOf(host.Get()) : nullptr;
     const long inserted = InsertFrom(data, target, drag ? drag->pages : std::vector<long>());
     if (inserted == 0) return DROPEFFECT_NONE;

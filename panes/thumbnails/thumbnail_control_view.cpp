@@ -1,5 +1,4 @@
 // How the pane shows itself: drawing and scrolling.
-#include "panes/thumbnails/own_host_calls.h"
 #include "panes/thumbnails/thumbnail_control.h"
 #include "res/strings.h"
 #include "res/text_ids.h"
@@ -36,9 +35,9 @@ void ThumbnailControl::Paint(HDC dc, const RECT& dirty) {
 void ThumbnailControl::DrawPane(HDC dc, const RECT& dirty) {
     const Brush background = MakeBrush(BackColorRef());
     FillRect(dc, &dirty, background.Get());
-    const ComPtr<IVandraX> host = binding_.Host();
+    const ComPtr<IVandraX> host = Host();
     if (!host) return;
-    const OwnHostCalls ours(ownHostCalls_);
+    const OwnHostCalls ours(*this);
     painter_.Paint(dc, dirty, host.Get(), recordFactor_);
 }
 

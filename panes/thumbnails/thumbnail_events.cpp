@@ -15,18 +15,6 @@ enum EventId : DISPID {
 
 }  // namespace
 
-void ThumbnailEvents::Raise(DISPID id, std::vector<VARIANT> arguments) {
-    if (!frozen_()) FireEvent(point_, id, std::move(arguments));
-}
-
-/// Raises an event whose last parameter is an in/out flag; it starts set, and cleared it vetoes.
-bool ThumbnailEvents::Ask(DISPID id, std::vector<VARIANT> arguments) {
-    long goOn = 1;
-    arguments.push_back(EventArgument(&goOn));
-    Raise(id, std::move(arguments));
-    return goOn != 0;
-}
-
 bool ThumbnailEvents::ThumbActivated(long page) { return Ask(thumbActivated, {EventArgument(page)}); }
 
 bool ThumbnailEvents::DeleteSelectedPages() { return Ask(deleteSelectedPages, {}); }

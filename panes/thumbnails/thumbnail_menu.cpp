@@ -1,6 +1,6 @@
 #include "panes/thumbnails/thumbnail_menu.h"
 
-#include "com/error.h"
+#include "panes/common/popup_menu.h"
 #include "res/strings.h"
 #include "res/text_ids.h"
 
@@ -19,27 +19,6 @@ constexpr Entry entries[] = {
     {PageCommand::Copy, QZ_TEXT_COPY},
     {PageCommand::Paste, QZ_TEXT_PASTE},
     {PageCommand::Delete, QZ_TEXT_DELETE},
-};
-
-class PopupMenu {
-  public:
-    PopupMenu() : menu_(CreatePopupMenu()) { ThrowLastErrorIf(!menu_, L"The menu cannot be made"); }
-    ~PopupMenu() { DestroyMenu(menu_); }
-    PopupMenu(const PopupMenu&) = delete;
-    PopupMenu& operator=(const PopupMenu&) = delete;
-
-    void Append(UINT id, const std::wstring& text, bool enabled) {
-        const UINT flags = MF_STRING | (enabled ? MF_ENABLED : MF_GRAYED);
-        ThrowLastErrorIf(!AppendMenuW(menu_, flags, id, text.c_str()), L"The menu cannot be filled");
-    }
-
-    UINT Track(HWND owner, POINT screen) {
-        const UINT flags = TPM_RETURNCMD | TPM_RIGHTBUTTON | TPM_LEFTALIGN | TPM_TOPALIGN;
-        return static_cast<UINT>(TrackPopupMenu(menu_, flags, screen.x, screen.y, 0, owner, nullptr));
-    }
-
-  private:
-    HMENU menu_;
 };
 
 }  // namespace

@@ -60,7 +60,8 @@ auto WithModelErrors(Body&& body);
 template <class Dual, class T, class... Arguments>
 ComPtr<IDispatch> MakeAutomationObject(Arguments&&... arguments) {
     ComPtr<IDispatch> object;
-    object.Attach(static_cast<Dual*>(MakeObject<T>(std::forward<Arguments>(arguments)...).Detach()));
+    // Not by Attach, which counts a reference of its own in one of the toolchains.
+    *object.GetAddressOf() = static_cast<Dual*>(MakeObject<T>(std::forward<Arguments>(arguments)...).Detach());
     return object;
 }
 

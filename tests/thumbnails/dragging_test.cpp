@@ -208,6 +208,31 @@ TEST_F(Dragging, TheLastPageStays) {
     EXPECT_EQ(OrderOf(other.host.Get()).size(), static_cast<size_t>(pageCount) + 1);
 }
 
+TEST_F(Dragging, ShowsTheTargetAndScrollsAtTheEdge) {
+    const POINT from = ScreenPointOn(2);
+    const POINT to = ScreenPointOn(3);
+    const POINT paper{PointOn(3).x + 25, PointOn(3).y + 53};  // white, below the page's lines
+    const COLORREF before = PixelAt(paper.x, paper.y);
+    COLORREF over = before;
+    long scrolled = 0;
+    While([&] {
+        Hands::MoveTo(from);
+        Hands::Button(MOUSEEVENTF_LEFTDOWN);
+        Hands::Glide(from, to);
+        over = PixelAt(paper.x, paper.y);
+        for (int i = 0; i < 6; ++i) Hands::MoveTo({to.x + i, 390});
+        scrolled = ScrollPosition();
+        Hands::Key(VK_ESCAPE, true);
+        Hands::Key(VK_ESCAPE, false);
+        Hands::Button(MOUSEEVENTF_LEFTUP);
+    });
+    EXPECT_EQ(over, before ^ RGB(255, 255, 255));
+    EXPECT_GE(scrolled, 30);
+    pane->ScrollPageThumbIntoView(1);
+    PumpMessages();
+    EXPECT_EQ(PixelAt(paper.x, paper.y), before) << "the mark goes with the drag";
+}
+
 TEST_F(Dragging, EscapeCancels) {
     const POINT from = ScreenPointOn(2);
     const POINT to = ScreenPointOn(5);

@@ -23,7 +23,7 @@ using Pages = std::vector<long>;
 using Lines = std::vector<std::wstring>;
 using Bytes = std::vector<std::byte>;
 
-inline long PageCountOf(IVandraX* host) {
+inline long CountPages(IVandraX* host) {
     long count = -1;
     host->GetPageCount(&count);
     return count;
@@ -39,7 +39,7 @@ inline ComPtr<IReferenceHost> MakeNumberedHost(long pages, long first) {
 
 inline Pages Widths(IVandraX* host) {
     Pages widths;
-    for (long page = 1; page <= PageCountOf(host); ++page)
+    for (long page = 1; page <= CountPages(host); ++page)
         widths.push_back(ToLong(ReadAttribute(host, L"Pages[" + std::to_wstring(page) + L"]", L"Width")));
     return widths;
 }

@@ -1,0 +1,59 @@
+// The system's own controls as children of our windows: a tree, an edit field, a button.
+#pragma once
+
+#include "com/object.h"
+
+#include <windows.h>
+
+#include <optional>
+
+namespace qz {
+
+/// What to create.
+struct ChildOptions {
+    const wchar_t* className = L"";
+    const wchar_t* text = L"";  ///< Also its name for assistive tools.
+    DWORD style = 0;            ///< WS_CHILD and WS_CLIPSIBLINGS are added.
+    DWORD extendedStyle = 0;
+    int id = 0;
+    RECT bounds{};  ///< In client pixels of the parent.
+};
+
+/// Sent to the parent when a child window got (wParam non-zero) or lost the focus; lParam is the other window
+/// that lost or gets it. `Control` takes it as its own focus.
+inline constexpr UINT childFocusMessage = WM_APP + 0x100;
+
+/// Owns one child window of a class of the system's and sees its messages before it does. Not movable; used
+/// on one thread. A child destroyed with its parent unbinds itself.
+class ChildWindow {
+  public:
+    ChildWindow() = default;
+    ChildWindow(const ChildWindow&) = delete;
+    ChildWindow& operator=(const ChildWindow&) = delete;
+    virtual ~ChildWindow() { Destroy(); }
+
+    HWND Handle() const noexcept { return handle_; }
+    explicit operator bool() const noexcept { return handle_ != nullptr; }
+
+    /// Throws when the system refuses. There must be none yet.
+    void Create(HWND parent, const ChildOptions& options);
+    void Destroy() noexcept;
+
+    LRESULT Send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const noexcept {
+        return SendMessageW(handle_, message, wParam, lParam);
+    }
+
+  protected:
+    /// Handles a message instead of the window; nothing lets it go on. What it throws is shown in the
+    /// debugger's output, and the window handles the message.
+    virtual std::optional<LRESULT> OnMessage(UINT, WPARAM, LPARAM) { return std::nullopt; }
+
+  private:
+    static LRESULT CALLBACK Procedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                                      DWORD_PTR self) noexcept;
+    LRESULT Dispatch(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
+
+    HWND handle_ = nullptr;
+};
+
+}  // namespace qz
