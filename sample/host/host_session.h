@@ -61,7 +61,8 @@ template <class Dual, class T, class... Arguments>
 ComPtr<IDispatch> MakeAutomationObject(Arguments&&... arguments) {
     ComPtr<IDispatch> object;
     // Not by Attach, which counts a reference of its own in one of the toolchains.
-    *object.GetAddressOf() = static_cast<Dual*>(MakeObject<T>(std::forward<Arguments>(arguments)...).Detach());
+    *object.GetAddressOf() =
+        static_cast<Dual*>(MakeObject<T>(std::forward<Arguments>(arguments)...).Detach());
     return object;
 }
 
