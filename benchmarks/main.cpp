@@ -21,6 +21,8 @@ void RunAll() {
     MeasureGrowth(report);
     MeasurePictures(report);
     MeasureCopying(report);
+    MeasureLayers(report);
+    MeasureOutline(report);
     report.PrintSummary();
 }
 

@@ -23,4 +23,10 @@ void MeasurePictures(Report& report);
 /// Painting thumbnails from the cache, against bare copies of their size.
 void MeasureCopying(Report& report);
 
+/// Toggling a layer with thousands below it, against the bare writes to the host.
+void MeasureLayers(Report& report);
+
+/// Rebuilding and expanding large outlines, against the bare host calls and insertions.
+void MeasureOutline(Report& report);
+
 }  // namespace qz::bench

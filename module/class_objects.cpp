@@ -1,5 +1,8 @@
 #include "module/class_objects.h"
 
+#include "panes/bookmarks/bookmark_control.h"
+#include "panes/layers/layers_control.h"
+#include "panes/status/status_control.h"
 #include "panes/thumbnails/thumbnail_control.h"
 
 #include <algorithm>
@@ -9,6 +12,9 @@ namespace qz {
 namespace {
 
 constexpr ClassObject classObjects[] = {
+    {&CLSID_qzBookmarkCtrl, CreateInstanceOf<BookmarkControl>, nullptr},
+    {&CLSID_qzLayersCtrl, CreateInstanceOf<LayersControl>, nullptr},
+    {&CLSID_qzStatusCtrl, CreateInstanceOf<StatusControl>, nullptr},
     {&CLSID_qzThumbnailCtrl, CreateInstanceOf<ThumbnailControl>, nullptr},
 };
 

@@ -14,6 +14,7 @@ void ChildWindow::Create(HWND parent, const ChildOptions& options) {
         bounds.left, bounds.top, bounds.right - bounds.left, bounds.bottom - bounds.top, parent,
         reinterpret_cast<HMENU>(static_cast<INT_PTR>(options.id)), ThisModule(), nullptr);
     ThrowLastErrorIf(!handle_, L"A child window cannot be made");
+    classProcedure_ = reinterpret_cast<WNDPROC>(GetWindowLongPtrW(handle_, GWLP_WNDPROC));
     SetWindowSubclass(handle_, &Procedure, 0, reinterpret_cast<DWORD_PTR>(this));
 }
 

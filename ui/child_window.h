@@ -43,6 +43,12 @@ class ChildWindow {
         return SendMessageW(handle_, message, wParam, lParam);
     }
 
+    /// Sends a message to the window's own class, past OnMessage and whoever else looks at its messages: for
+    /// many in a row, as on Wine finding out who looks costs far more than most messages do.
+    LRESULT SendToClass(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const noexcept {
+        return CallWindowProcW(classProcedure_, handle_, message, wParam, lParam);
+    }
+
   protected:
     /// Handles a message instead of the window; nothing lets it go on. What it throws is shown in the
     /// debugger's output, and the window handles the message.
@@ -54,6 +60,7 @@ class ChildWindow {
     LRESULT Dispatch(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
 
     HWND handle_ = nullptr;
+    WNDPROC classProcedure_ = nullptr;
 };
 
 }  // namespace qz

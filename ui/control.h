@@ -153,8 +153,11 @@ class Control : public IOleObject,
     /// The child window that has the focus when the control gets it; null for the control's own window.
     virtual HWND FocusChild() const noexcept { return nullptr; }
     /// True for a key message (WM_KEYDOWN, WM_SYSKEYDOWN, ...) to the control's window or a child of it that
-    /// the control wants for itself, such as arrows. Tab is never asked for: it leaves the control.
+    /// the control wants for itself, such as arrows. Tab is never asked for: see TabTarget.
     virtual bool IsInputKey(const MSG& message) const;
+    /// The child window that Tab (backwards: with Shift) leads to from where the focus is; null when it
+    /// leaves the control.
+    virtual HWND TabTarget(bool /*backwards*/) const { return nullptr; }
     /// An ambient property changed (DISPID_UNKNOWN: several).
     virtual void OnAmbientChanged(DISPID id);
     /// Asked on Close with OLECLOSE_PROMPTSAVE when there is something to save: IDYES, IDNO or IDCANCEL. By
@@ -251,6 +254,7 @@ class Control : public IOleObject,
     // control_keyboard.cpp
     bool Owns(HWND window) const noexcept;
     bool Keeps(const MSG& message) const;
+    bool MovesFocusWithin(const MSG& message) const;
     void TakeFocus() noexcept;
     void TellFocus(bool has) noexcept;
     std::optional<LRESULT> DialogCode(const MSG* message) const;

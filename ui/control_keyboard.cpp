@@ -36,6 +36,15 @@ bool Control::Keeps(const MSG& message) const {
     return NamesKey(message.message) && message.wParam != VK_TAB && IsInputKey(message);
 }
 
+bool Control::MovesFocusWithin(const MSG& message) const {
+    if (message.message != WM_KEYDOWN || message.wParam != VK_TAB) return false;
+    const DWORD modifiers = Modifiers();
+    if (modifiers & (controlDown | altDown)) return false;
+    const HWND target = TabTarget((modifiers & shiftDown) != 0);
+    if (target) SetFocus(target);
+    return target != nullptr;
+}
+
 STDMETHODIMP Control::TranslateAccelerator(LPMSG message) {
     return Run(IID_IOleInPlaceActiveObject, [&]() -> HRESULT {
         RequirePointer(message);
@@ -46,6 +55,7 @@ STDMETHODIMP Control::TranslateAccelerator(LPMSG message) {
             DispatchMessageW(&own);
             return S_OK;
         }
+        if (Owns(message->hwnd) && MovesFocusWithin(*message)) return S_OK;
         ComPtr<IOleControlSite> site;
         if (!site_ || FAILED(site_.As(&site))) return S_FALSE;
         return site->TranslateAccelerator(message, Modifiers()) == S_OK ? S_OK : S_FALSE;

@@ -21,6 +21,10 @@ class PopupMenu {
         const UINT flags = MF_STRING | (enabled ? MF_ENABLED : MF_GRAYED);
         ThrowLastErrorIf(!AppendMenuW(menu_, flags, id, text.c_str()), L"The menu cannot be filled");
     }
+    /// Marks one of the entries from `first` to `last` as the one that holds; none when it is not among them.
+    void CheckOne(UINT first, UINT last, UINT checked) {
+        CheckMenuRadioItem(menu_, first, last, checked, MF_BYCOMMAND);
+    }
     void AppendSeparator() { AppendMenuW(menu_, MF_SEPARATOR, 0, nullptr); }
 
     /// Shows the menu at a screen point until the user has chosen; 0 when he did not. Handles messages

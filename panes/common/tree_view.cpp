@@ -55,7 +55,8 @@ void TreeView::Insert(HTREEITEM parent, HTREEITEM after, TreeItem& item) {
         made.mask |= TVIF_IMAGE | TVIF_SELECTEDIMAGE;
         made.iImage = made.iSelectedImage = item.image;
     }
-    item.handle = reinterpret_cast<HTREEITEM>(Send(TVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&insert)));
+    item.handle =
+        reinterpret_cast<HTREEITEM>(SendToClass(TVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&insert)));
     if (!item.handle) Throw(E_OUTOFMEMORY, L"The tree takes no further item");
 }
 

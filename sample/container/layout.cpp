@@ -15,7 +15,9 @@ int Wanted(const DockRequest& request, DockSide side) {
     return InUse(request, side) ? std::max(0, request.extents[side]) : 0;
 }
 
-int Gap(const DockRequest& request, DockSide side) { return InUse(request, side) ? request.splitter : 0; }
+int Gap(const DockRequest& request, DockSide side) {
+    return InUse(request, side) && !request.fixed[side] ? request.splitter : 0;
+}
 
 /// The extents that fit: the bottom is cut to the room there is, left and right shrink in proportion.
 PerSide<int> Fit(const DockRequest& request) {

@@ -43,13 +43,14 @@ struct DockRequest {
     /// Width of the left and right side, height of the bottom; shrunk when the centre would get too small.
     PerSide<int> extents;
     int splitter = 0;        ///< Width of the gap between a side and the centre.
+    PerSide<bool> fixed;     ///< Sides of an extent that the user cannot change: they have no splitter.
     int smallestCentre = 0;  ///< Width and height that the centre keeps as long as there is room.
 };
 
 /// The bottom side runs along the whole width, the left and right ones stand on it.
 struct DockLayout {
     Area centre;
-    PerSide<Area> splitters;  ///< Empty for a side without panes.
+    PerSide<Area> splitters;  ///< Empty for a side without panes or of fixed extent.
     std::vector<Area> panes;  ///< In the order of the request.
 };
 

@@ -130,7 +130,9 @@ void Pane::OnPaint() {
     PaintPaneHeader(Handle(), header, content);
 }
 
-int Pane::HeaderHeight() const noexcept { return *row_.title ? Scaled(Handle(), 26) : 0; }
+int Pane::HeaderHeight() const noexcept {
+    return row_.kind == PaneKind::Pane && *row_.title ? Scaled(Handle(), 26) : 0;
+}
 
 RECT Pane::ControlArea() const noexcept {
     RECT area = ClientRect();

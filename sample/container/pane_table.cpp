@@ -16,9 +16,22 @@ constexpr InitialProperty thumbnailProperties[] = {
     {L"ThumbSizeFactor", 20},
 };
 
+constexpr InitialProperty statusProperties[] = {
+    {L"UnitOfMeasure", qzStatusCtrlMillimeter},
+};
+
+constexpr InitialProperty bookmarkProperties[] = {
+    {L"IconSet", qzBookmarksCtrlIconSet_Style1},
+};
+
 const PaneRow panes[] = {
     {L"Pages", &CLSID_qzThumbnailCtrl, DockSide::Left, 290, &DIID__IqzThumbnailCtrlEvents,
      thumbnailProperties, AskBeforeDeletingPages},
+    {L"Bookmarks", &CLSID_qzBookmarkCtrl, DockSide::Right, 220, &DIID__IqzBookmarkCtrlEvents,
+     bookmarkProperties},
+    {L"Layers", &CLSID_qzLayersCtrl, DockSide::Right, 220, &DIID__IqzLayersCtrlEvents, {}},
+    {L"Status bar", &CLSID_qzStatusCtrl, DockSide::Bottom, 28, nullptr, statusProperties, nullptr,
+     PaneKind::Bar},
 };
 
 }  // namespace

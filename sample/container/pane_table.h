@@ -16,6 +16,9 @@ struct InitialProperty {
     long value;
 };
 
+/// A bar has no header, and keeps its extent; it does not share its side with panes.
+enum class PaneKind { Pane, Bar };
+
 struct PaneRow {
     const wchar_t* title;  ///< Shown above the pane; empty: the pane gets no header.
     const CLSID* classId;
@@ -24,6 +27,7 @@ struct PaneRow {
     const IID* events;  ///< Its event dispinterface; null for a control without events.
     std::span<const InitialProperty> properties;
     PaneEventHandler onEvent = nullptr;  ///< Null: events are only logged.
+    PaneKind kind = PaneKind::Pane;
 };
 
 std::span<const PaneRow> PaneTable() noexcept;

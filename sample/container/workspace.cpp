@@ -28,6 +28,7 @@ Workspace::Workspace(HWND parent, std::span<const PaneRow> rows, const PaneEnvir
         panes_.push_back(std::make_unique<Pane>(Handle(), row, environment));
         sides_.push_back(row.side);
         extents_[row.side] = std::max(extents_[row.side], row.extent);
+        fixed_[row.side] = row.kind == PaneKind::Bar;
     }
     host_.ShowIn(Handle());
 }
@@ -97,6 +98,7 @@ DockRequest Workspace::Request() const {
     request.height = client.bottom;
     request.panes = sides_;
     for (const DockSide side : dockSides) request.extents[side] = Scaled(Handle(), extents_[side]);
+    request.fixed = fixed_;
     request.splitter = Scaled(Handle(), splitterWidth);
     request.smallestCentre = Scaled(Handle(), smallestCentre);
     return request;

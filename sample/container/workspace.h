@@ -54,6 +54,7 @@ class Workspace final : public AppWindow {
     std::vector<std::unique_ptr<Pane>> panes_;
     std::vector<DockSide> sides_;  ///< Of each pane.
     PerSide<int> extents_;         ///< At 96 dots per inch.
+    PerSide<bool> fixed_;          ///< Sides that hold bars.
     DockLayout layout_;
     std::optional<DockSide> dragged_;
 };

@@ -56,7 +56,7 @@ def describe(pdf, path):
     pages = pages_of(pdf)
     geometries = [PageGeometry(page) for page in pages]
     fields, further = information_of(pdf)
-    layers, configurations = layers_of(pdf)
+    layers, configurations = layers_of(pdf, pages)
     header = {
         "pages": [{"width": g.width, "height": g.height, "picture": i} for i, g in enumerate(geometries)],
         "outline": outline_of(pdf),

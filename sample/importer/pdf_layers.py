@@ -1,13 +1,21 @@
 """Optional content: layers and configurations in the host's list syntax, such as (A)[(B)(C)](D)."""
+import unicodedata
+
+import pdf_layer_pages
 from pdf_text import entry, identity, is_array, is_dictionary, is_text, text_of
 
 MOST_LEVELS = 32
 LONGEST_NAME = 240
 
 
+def is_letter_or_digit(character):
+    kind = unicodedata.category(character)
+    return ord(character) < 0x10000 and (kind[0] == "L" or kind == "Nd")
+
+
 def plain(text):
     """Only what the list syntax lets through in a name: letters, digits, blank, hyphen, colon, underscore."""
-    kept = "".join(c for c in text if (c.isalnum() and ord(c) < 0x10000) or c in " -:_")
+    kept = "".join(c for c in text if is_letter_or_digit(c) or c in " -:_")
     return " ".join(kept.split())[:LONGEST_NAME]
 
 
@@ -114,8 +122,8 @@ def configuration_of(layers, configuration, number):
     }}
 
 
-def layers_of(pdf):
-    """The layers with their state at opening, and the configurations, the default one first."""
+def layers_of(pdf, pages):
+    """The layers with their state at opening and their pages, and the configurations, the default one first."""
     properties = entry(pdf.Root, "/OCProperties")
     layers = Layers(properties)
     if not layers.groups:
@@ -123,6 +131,8 @@ def layers_of(pdf):
     others = entry(properties, "/Configs")
     configurations = [entry(properties, "/D")] + (list(others) if is_array(others) else [])
     states = layers.initial_states(configurations[0])
-    described = [{"name": name, "values": {"DisplayName": shown, "CurrentViewState": "ON" if states[key] else "OFF"}}
+    numbers = pdf_layer_pages.pages_by_layer(pages)
+    described = [{"name": name, "values": {"DisplayName": shown, "CurrentViewState": "ON" if states[key] else "OFF"},
+                  "further": [pdf_layer_pages.described(numbers.get(key, []))]}
                  for key, (name, shown, _) in layers.groups.items()]
     return described, [configuration_of(layers, c, n) for n, c in enumerate(configurations, 1) if is_dictionary(c)]

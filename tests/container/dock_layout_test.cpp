@@ -46,6 +46,16 @@ TEST(DockLayout, NoPanesLeaveAllToTheCentre) {
     EXPECT_EQ(Arrange(request).centre, (Area{0, 0, 1000, 600}));
 }
 
+TEST(DockLayout, AFixedSideHasNoSplitter) {
+    const DockSide panes[] = {Left, Bottom};
+    DockRequest request = Request(panes);
+    request.fixed[Bottom] = true;
+    const DockLayout layout = Arrange(request);
+    EXPECT_EQ(layout.panes[1], (Area{0, 500, 1000, 100}));
+    EXPECT_TRUE(layout.splitters[Bottom].Empty());
+    ExpectTiled(request, layout);
+}
+
 TEST(DockLayout, SidesStandOnTheBottom) {
     const DockSide panes[] = {Right, Left, Bottom};
     const DockRequest request = Request(panes);

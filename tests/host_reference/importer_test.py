@@ -141,6 +141,19 @@ class ImporterTest(unittest.TestCase):
         self.assertEqual(other["values"]["ConfigOrder"], "(A1)(B)(B 2)(Group)")
         self.assertEqual(other["values"]["ConfigON"], "(A1)")
 
+    def test_layers_know_their_pages(self):
+        marked, formed, noted, unused = (layer(self.pdf, name) for name in "MFNU")
+        either = self.pdf.make_indirect(Dictionary(Type=Name.OCMD, OCGs=Array([marked, formed])))
+        form = self.pdf.make_stream(b"", Subtype=Name.Form, OC=formed)
+        form["/Resources"] = Dictionary(XObject=Dictionary(Self=form), Properties=Dictionary(P0=noted))
+        add_page(self.pdf, Resources=Dictionary(Properties=Dictionary(P0=marked)))
+        add_page(self.pdf, Resources=Dictionary(XObject=Dictionary(F0=form)))
+        add_page(self.pdf, Resources=Dictionary(Properties=Dictionary(P0=either, P1=7)))
+        add_page(self.pdf, Annots=Array([Dictionary(Type=Name.Annot, Subtype=Name.Link, OC=noted), 7]))
+        self.pdf.Root["/OCProperties"] = Dictionary(OCGs=Array([marked, formed, noted, unused]), D=Dictionary())
+        pages = {g["name"]: g["further"][0]["value"] for g in self.imported()["layers"]}
+        self.assertEqual(pages, {"M": [1, 3], "F": [2, 3], "N": [2, 4], "U": []})
+
     def test_layers_in_circles(self):
         add_page(self.pdf, MediaBox=box(0, 0, 100, 100))
         a = layer(self.pdf, "A")

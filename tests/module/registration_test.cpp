@@ -10,8 +10,21 @@ namespace qz {
 namespace {
 
 constexpr const wchar_t* classesPath = L"Software\\Classes";
-const std::wstring classId = L"{560395C7-50BB-4B91-971B-B7432D935AA6}";
 const std::wstring libraryId = L"{1D2EC6D1-E2F3-455F-83E7-9AE07050D20D}";
+
+struct Class {
+    std::wstring name;
+    std::wstring id;
+    std::wstring versionIndependent;
+};
+
+// The classes that the module serves so far, all of them controls.
+const Class classes[] = {
+    {L"qzBookmarkCtrl", L"{B12592F0-6748-46E2-BCC8-38788B852506}", L"QzVandraExt.qzBookmarkCtrl"},
+    {L"qzLayersCtrl", L"{CC8649C0-24F7-483B-8F09-505077C23D94}", L"QzVandraExt.qzLayersCtrl"},
+    {L"qzThumbnailCtrl", L"{560395C7-50BB-4B91-971B-B7432D935AA6}", L"QzVandraExt.qzThumbnailCtrl"},
+    {L"qzStatusCtrl", L"{AA4B6D08-6252-4080-819A-3BDE87080668}", L"qzVandraExt.qzStatusCtrl"},
+};
 
 struct Interface {
     const wchar_t* name;
@@ -41,7 +54,8 @@ constexpr Interface interfaces[] = {
 
 // Keys that are the module's by their name.
 bool IsOurs(const std::wstring& name) {
-    return name == classId || name == libraryId || name.starts_with(L"Qz") || name.starts_with(L"qz") ||
+    return name == libraryId || name.starts_with(L"Qz") || name.starts_with(L"qz") ||
+           std::ranges::any_of(classes, [&](const Class& each) { return name == each.id; }) ||
            std::ranges::any_of(interfaces, [&](const Interface& each) { return name == each.id; });
 }
 
@@ -64,17 +78,17 @@ void Expect(RegistryListing& expected, const std::wstring& key, const std::wstri
     expected[key + L"|"] = text;
 }
 
-RegistryListing ExpectedClass(const std::wstring& modulePath) {
-    RegistryListing expected;
-    for (const wchar_t* progId : {L"QzVandraExt.qzThumbnailCtrl", L"QzVandraExt.qzThumbnailCtrl.1"}) {
-        Expect(expected, progId, L"qzThumbnailCtrl Class");
-        Expect(expected, progId + std::wstring(L"\\CLSID"), classId);
+void ExpectClass(RegistryListing& expected, const Class& served, const std::wstring& modulePath) {
+    const std::wstring progId = L"QzVandraExt." + served.name;
+    for (const std::wstring& name : {progId, progId + L".1"}) {
+        Expect(expected, name, served.name + L" Class");
+        Expect(expected, name + L"\\CLSID", served.id);
     }
-    Expect(expected, L"QzVandraExt.qzThumbnailCtrl\\CurVer", L"QzVandraExt.qzThumbnailCtrl.1");
-    const std::wstring key = L"CLSID\\" + classId;
-    Expect(expected, key, L"qzThumbnailCtrl Class");
-    Expect(expected, key + L"\\ProgID", L"QzVandraExt.qzThumbnailCtrl.1");
-    Expect(expected, key + L"\\VersionIndependentProgID", L"QzVandraExt.qzThumbnailCtrl");
+    Expect(expected, progId + L"\\CurVer", progId + L".1");
+    const std::wstring key = L"CLSID\\" + served.id;
+    Expect(expected, key, served.name + L" Class");
+    Expect(expected, key + L"\\ProgID", progId + L".1");
+    Expect(expected, key + L"\\VersionIndependentProgID", served.versionIndependent);
     Expect(expected, key + L"\\InprocServer32", modulePath);
     Expect(expected, key + L"\\ToolboxBitmap32", modulePath + L", 101");
     Expect(expected, key + L"\\MiscStatus", L"0");
@@ -83,6 +97,11 @@ RegistryListing ExpectedClass(const std::wstring& modulePath) {
     Expect(expected, key + L"\\Version", L"6.5");
     expected[key + L"\\InprocServer32|ThreadingModel"] = L"Apartment";
     for (const wchar_t* flag : {L"Programmable", L"Control", L"Insertable"}) expected[key + L"\\" + flag];
+}
+
+RegistryListing ExpectedClasses(const std::wstring& modulePath) {
+    RegistryListing expected;
+    for (const Class& each : classes) ExpectClass(expected, each, modulePath);
     return expected;
 }
 
@@ -168,7 +187,7 @@ TEST_P(Registration, WritesEveryKeyAndNoOther) {
     ASSERT_EQ(Register(), S_OK);
     RegistryListing added = Added(before_, List());
     added.merge(Added(librariesBefore_, ListLibraries()));
-    TakeOut(added, ExpectedClass(module_.Path()));
+    TakeOut(added, ExpectedClasses(module_.Path()));
     TakeOut(added, ExpectedTypeLibrary(module_.Path()));
     for (const auto& [entry, text] : added)
         EXPECT_TRUE(IsOfTheSystem(entry)) << testing::PrintToString(entry);
@@ -248,7 +267,7 @@ TEST_P(Registration, IsDoneByTheSystemsOwnTool) {
         CloseHandle(process.hThread);
         CloseHandle(process.hProcess);
         EXPECT_EQ(exitCode, 0u);
-        EXPECT_EQ(List().contains(L"CLSID\\" + classId), install);
+        EXPECT_EQ(List().contains(L"CLSID\\" + classes[0].id), install);
     }
     EXPECT_EQ(Added(before_, List()), RegistryListing());
 }

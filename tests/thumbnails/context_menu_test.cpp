@@ -24,9 +24,9 @@ class ContextMenu : public PagesTest {
     MenuSeen Ask(LPARAM where, int entry = -1) {
         seen_ = {};
         entry_ = entry;
-        SetTimer(nullptr, 0, 30, &OnTimer);
+        const UINT_PTR timer = SetTimer(nullptr, 0, 30, &OnTimer);
         SendMessageW(PaneWindow(), WM_CONTEXTMENU, reinterpret_cast<WPARAM>(PaneWindow()), where);
-        KillTimer(nullptr, timer_);
+        KillTimer(nullptr, timer);  // still there when no menu came up
         return seen_;
     }
     /// A point no request was made at before, since a repeated message is ignored.
@@ -34,7 +34,6 @@ class ContextMenu : public PagesTest {
 
   private:
     static void CALLBACK OnTimer(HWND, UINT, UINT_PTR timer, DWORD) {
-        timer_ = timer;
         const HWND window = FindWindowW(L"#32768", nullptr);
         if (!window) return;
         KillTimer(nullptr, timer);
@@ -54,7 +53,6 @@ class ContextMenu : public PagesTest {
 
     static inline MenuSeen seen_;
     static inline int entry_ = -1;
-    static inline UINT_PTR timer_ = 0;
     int requests_ = 0;
 };
 

@@ -3,6 +3,7 @@
 
 #include "tests/support/control_site.h"
 #include "tests/support/error_text.h"
+#include "tests/support/pane_window.h"
 #include "ui/control.h"
 
 #include <functional>
@@ -83,8 +84,5 @@ struct Container {
     ComPtr<ControlSite> site;
     ComPtr<TestControl> control;
 };
-
-/// Handles the thread's messages that wait.
-void PumpMessages();
 
 }  // namespace qz

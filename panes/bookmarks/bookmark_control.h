@@ -1,0 +1,107 @@
+// The bookmark pane as a control: the outline of the host's document as a tree.
+#pragma once
+
+#include "com/class_info.h"
+#include "com/connection_points.h"
+#include "com/dispatch.h"
+#include "panes/bookmarks/bookmark_images.h"
+#include "panes/bookmarks/bookmark_tree.h"
+#include "panes/bookmarks/item_colours.h"
+#include "panes/common/pane_control.h"
+#include "panes/common/pane_events.h"
+#include "ui/gdi.h"
+
+#include "generated/qzVandraExt.h"
+
+namespace qz {
+
+/// See the type library for the members. Those with a host return S_OK and do nothing without one.
+class BookmarkControl final
+    : public Object<BookmarkControl, PaneControl, Dispatch<IqzBookmarkCtrl>,
+                    ProvideClassInfo<CLSID_qzBookmarkCtrl, DIID__IqzBookmarkCtrlEvents>,
+                    ConnectionPointContainer>,
+      private BookmarkTreeListener {
+  public:
+    BookmarkControl();
+    void FinalRelease() noexcept;
+
+    STDMETHODIMP Initialize(IDispatch* pDispatch) override;
+    STDMETHODIMP Refresh() override;
+    STDMETHODIMP InitializeV(VARIANT Var) override;
+    STDMETHODIMP get_FitToParent(long* pVal) override { return GetNumber(pVal, fitToParent_); }
+    STDMETHODIMP put_FitToParent(long newVal) override;
+    STDMETHODIMP get_ReadOnly(long* pVal) override { return GetNumber(pVal, readOnly_); }
+    STDMETHODIMP put_ReadOnly(long newVal) override { return PutNumber(readOnly_, newVal); }
+    STDMETHODIMP get_EnableDragDrop(long* pVal) override { return GetNumber(pVal, enableDragDrop_); }
+    STDMETHODIMP put_EnableDragDrop(long newVal) override { return PutNumber(enableDragDrop_, newVal); }
+    STDMETHODIMP ExpandAll() override;
+    STDMETHODIMP CollapseAll() override;
+    STDMETHODIMP get_BackColor(OLE_COLOR* pVal) override { return GetBackColor(pVal); }
+    STDMETHODIMP put_BackColor(OLE_COLOR newVal) override;
+    STDMETHODIMP get_TextColor(OLE_COLOR* pVal) override;
+    STDMETHODIMP put_TextColor(OLE_COLOR newVal) override;
+    STDMETHODIMP get_SelectedTextColor(OLE_COLOR* pVal) override;
+    STDMETHODIMP put_SelectedTextColor(OLE_COLOR newVal) override;
+    STDMETHODIMP get_SelectedTextBackColor(OLE_COLOR* pVal) override;
+    STDMETHODIMP put_SelectedTextBackColor(OLE_COLOR newVal) override;
+    STDMETHODIMP get_IconSet(qzBookmarksCtrlIconSetConsts* pVal) override;
+    STDMETHODIMP put_IconSet(qzBookmarksCtrlIconSetConsts newVal) override;
+
+  private:
+    // bookmark_control.cpp: members
+    REFCLSID ClassId() const noexcept override { return CLSID_qzBookmarkCtrl; }
+    std::span<const PersistentProperty> PersistentProperties() const override;
+    std::vector<ConnectionPoint*> Points() override { return {&events_.Point(), &PropertyNotifyPoint()}; }
+    HRESULT GetNumber(long* value, long number) const noexcept;
+    HRESULT PutNumber(long& number, long value) noexcept;
+    template <class Change>
+    HRESULT Run(Change&& change) noexcept;
+
+    // bookmark_control_outline.cpp: the host and its outline
+    void ShowDocument() override;
+    void ForgetDocument() override;
+    void FollowHost() override;
+    void Rebuild(const OutlineLimits& limits);
+    void ReadOutline(const ComPtr<IVandraX>& host, const OutlineLimits& limits);
+    bool BuildTree(IDispatch* root, BookmarkReader reader, const OutlineLimits& limits);
+    BookmarkReader MakeReader(const ComPtr<IVandraX>& host) const;
+    void Collapse();
+
+    // BookmarkTreeListener
+    bool ReadBelow(HTREEITEM item) override;
+    void ExpandBelow(HTREEITEM item) override;
+    void ActivateItem(HTREEITEM item) override;
+    ComPtr<IUnknown> KeepAlive() noexcept override { return Identity(); }
+
+    // bookmark_control_view.cpp: the window and what it looks like
+    std::wstring Title() const override;
+    void OnDraw(HDC dc, const RECT& bounds) override;
+    void OnSized(SIZE client) override;
+    void OnWindowCreated() override;
+    void OnAmbientChanged(DISPID id) override;
+    std::optional<LRESULT> OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+    HWND FocusChild() const noexcept override { return tree_.Handle(); }
+    bool IsInputKey(const MSG& message) const override;
+    LRESULT OnCustomDraw(NMTVCUSTOMDRAW& draw) const;
+    void ApplyFont();
+    void ApplyColours();
+    void ApplyImages();
+    void Redraw() noexcept;
+
+    BookmarkTree tree_{*this};
+    PaneEvents events_;
+    std::shared_ptr<BookmarkMembers> members_ = std::make_shared<BookmarkMembers>();
+    ItemColours colours_;
+    ImageList images_;
+    Font font_;
+    long fitToParent_ = 1;
+    long readOnly_ = 0;
+    long enableDragDrop_ = 1;
+    qzBookmarksCtrlIconSetConsts iconSet_ = qzBookmarksCtrlIconSet_None;
+    /// As last read from the host, with the tree.
+    long documentMode_ = 0;
+    long bookmarkState_ = 0;
+    bool refreshing_ = false;
+};
+
+}  // namespace qz

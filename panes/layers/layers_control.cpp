@@ -1,0 +1,294 @@
+// The pane's members, its tie to the host, and its records.
+#include "panes/layers/layers_control.h"
+
+#include "host/auto_refresh.h"
+#include "panes/common/fit_to_parent.h"
+
+namespace qz {
+
+namespace {
+
+constexpr IID iid = __uuidof(IqzLayersCtrl);
+
+/// The bits of the host's change flags that matter here.
+struct HostChange {
+    std::uint32_t flags;
+
+    /// Nothing but that the view moved.
+    constexpr bool Ignored() const noexcept { return flags == 0x40; }
+    /// Attributes or document settings were written: names may be other ones.
+    constexpr bool Names() const noexcept { return flags == 0 || (flags & 0x680) != 0; }
+    /// Another page is current, or other content is on it.
+    constexpr bool Page() const noexcept { return flags == 0 || (flags & 0xB0) != 0; }
+};
+
+constexpr bool DependsOnPage(long listLayers) noexcept {
+    return listLayers == qzLayersCtrlListLayers_ForVisiblePages ||
+           listLayers == qzLayersCtrlListLayers_ForCurrentPage;
+}
+
+}  // namespace
+
+LayersControl::LayersControl() : events_(Identity(), [this] { return EventsFrozen(); }) {}
+
+void LayersControl::FinalRelease() noexcept {
+    events_.Point().DisconnectAll();
+    PaneControl::FinalRelease();
+}
+
+// Members
+// ------------------------------------------------------------------------------------------------------
+
+STDMETHODIMP LayersControl::Initialize(IDispatch* pDispatch) { return InitializePane(iid, pDispatch); }
+
+STDMETHODIMP LayersControl::Refresh() {
+    if (!Host()) return S_OK;
+    const ComPtr<IUnknown> alive = Identity();
+    return Guard(iid, [&] { Rebuild(); });
+}
+
+STDMETHODIMP LayersControl::Reset() { return ResetPane(iid); }
+
+STDMETHODIMP LayersControl::get_IsInitialized(long* pVal) { return TellInitialized(iid, pVal); }
+
+STDMETHODIMP LayersControl::get_FitToParent(long* pVal) {
+    return Guard(iid, [&] {
+        RequirePointer(pVal);
+        *pVal = fitToParent_;
+    });
+}
+
+STDMETHODIMP LayersControl::put_FitToParent(long newVal) {
+    const ComPtr<IUnknown> alive = Identity();
+    fitToParent_ = newVal;
+    SetDirty(true);
+    if (newVal) FitToParent(WindowHandle());
+    return S_OK;
+}
+
+STDMETHODIMP LayersControl::get_Locked(long* pVal) {
+    return Guard(iid, [&] {
+        RequirePointer(pVal);
+        *pVal = locked_;
+    });
+}
+
+STDMETHODIMP LayersControl::put_Locked(long newVal) {
+    locked_ = newVal;
+    SetDirty(true);
+    return S_OK;
+}
+
+STDMETHODIMP LayersControl::get_ListLayers(qzLayersCtrlListLayers* pVal) {
+    return Guard(iid, [&] {
+        RequirePointer(pVal);
+        *pVal = static_cast<qzLayersCtrlListLayers>(listLayers_);
+    });
+}
+
+STDMETHODIMP LayersControl::put_ListLayers(qzLayersCtrlListLayers newVal) {
+    const ComPtr<IUnknown> alive = Identity();
+    return Guard(iid, [&] {
+        if (newVal < qzLayersCtrlListLayers_None || newVal > qzLayersCtrlListLayers_ForCurrentPage) {
+            Throw(E_INVALIDARG, L"There is no such choice of layers");
+        }
+        listLayers_ = newVal;
+        SetDirty(true);
+        List();
+    });
+}
+
+STDMETHODIMP LayersControl::ResetToInitialVisibility() {
+    const ComPtr<IVandraX> host = Host();
+    if (!host) return S_OK;
+    const ComPtr<IUnknown> alive = Identity();
+    return Guard(iid, [&] {
+        if (locked_) Throw(E_ACCESSDENIED, L"The layers are locked");
+        Carry(host, layers_.Reset());
+    });
+}
+
+STDMETHODIMP LayersControl::LayerProperties() {
+    const ComPtr<IVandraX> host = Host();
+    if (!host) return S_OK;
+    const ComPtr<IUnknown> alive = Identity();
+    return Guard(iid, [&] { ShowSelectedProperties(host); });
+}
+
+STDMETHODIMP LayersControl::put_BackColor(OLE_COLOR newVal) {
+    const ComPtr<IUnknown> alive = Identity();
+    const HRESULT result = PutBackColor(newVal);
+    if (result == S_OK && tree_) tree_.Send(TVM_SETBKCOLOR, 0, static_cast<LPARAM>(BackColorRef()));
+    return result;
+}
+
+std::span<const PersistentProperty> LayersControl::PersistentProperties() const {
+    static constexpr PersistentProperty properties[] = {
+        {L"BackColor", DISPID_BACKCOLOR, VT_UI4},
+        {L"FitToParent", 5, VT_I4},
+        {L"Locked", 6, VT_I4},
+        {L"ListLayers", 7, VT_I4},
+    };
+    return properties;
+}
+
+// Records
+// ------------------------------------------------------------------------------------------------------
+
+void LayersControl::ForgetDocument() { Take({}); }
+
+/// Throws the first failure; what was read until then is shown.
+void LayersControl::Rebuild() {
+    const ComPtr<IVandraX> host = Host();
+    if (!host) return;
+    LayerDocument document;
+    const auto take = [&] {
+        if (Host() == host) Take(std::move(document));
+    };
+    try {
+        const OwnHostCalls ours(*this);
+        const qzVandraAutoRefresh suspended(host.Get());
+        ReadLayers(host.Get(), document);
+    } catch (...) {
+        take();
+        throw;
+    }
+    take();
+    if (Host() == host) List();
+}
+
+void LayersControl::Take(LayerDocument document) {
+    const TreeState kept = KeptState();
+    ++generation_;
+    configurations_ = std::move(document.configurations);
+    texts_ = std::move(document.texts);
+    layers_.Start(std::move(document.records));
+    paths_ = PathsOf(layers_.Records());
+    // Until the pages are known.
+    listed_.assign(layers_.Records().Items().size(), listLayers_ != qzLayersCtrlListLayers_None);
+    FillTree(kept);
+}
+
+/// Whether, after foreign code has run, indexes taken before it still mean the same.
+bool LayersControl::StillShows(const ComPtr<IVandraX>& host, unsigned generation) const noexcept {
+    return host && Host() == host && generation_ == generation;
+}
+
+void LayersControl::FollowHost() {
+    const ComPtr<IVandraX> host = Host();
+    const OwnHostCalls ours(*this);
+    long flags = 0;
+    ThrowIfFailed(host->GetChangeFlags(&flags), L"The host does not tell what changed");
+    const HostChange change{static_cast<std::uint32_t>(flags)};
+    if (change.Ignored()) return;
+    const LayerTexts texts = ReadLayerTexts(host.Get());
+    if (Host() != host) return;
+    if (texts != texts_) return Rebuild();
+    ReadStates(host, change.Names());
+    if (change.Page() && DependsOnPage(listLayers_)) List();
+}
+
+/// What the user chose stays; a layer that is gone lets everything be read anew.
+void LayersControl::ReadStates(const ComPtr<IVandraX>& host, bool names) {
+    const unsigned generation = generation_;
+    const LayerPaths paths = paths_;
+    LayerAttributes attributes(host.Get());
+    const std::vector<LayerRecord>& all = layers_.Records().All();
+    bool renamed = false;
+    for (std::size_t i = 0; i < all.size(); ++i) {
+        if (all[i].missing) continue;
+        bool visible = false;
+        std::wstring displayName;
+        try {
+            visible = attributes.ReadVisible((*paths)[i]);
+            if (names) displayName = attributes.ReadDisplayName((*paths)[i]);
+        } catch (const ComError&) {
+            if (attributes.Exists((*paths)[i])) throw;
+            return Rebuild();
+        }
+        if (!StillShows(host, generation)) return;
+        layers_.TakeHostState(i, visible);
+        if (!names || displayName == all[i].displayName) continue;
+        layers_.TakeDisplayName(i, std::move(displayName));
+        renamed = true;
+    }
+    layers_.UpdateMarks();
+    if (renamed) {
+        FillTree(KeptState());
+    } else {
+        ShowStates();
+    }
+}
+
+// The listed layers
+// ---------------------------------------------------------------------------------------------
+
+/// By record. The layers in the view are taken to be those of the current page: no host tells what it shows.
+std::vector<bool> LayersControl::LayersOnPage(IVandraX* host) const {
+    long page = 0;
+    ThrowIfFailed(host->GetCurrentPage(&page), L"The host does not tell its current page");
+    const LayerPaths paths = paths_;
+    std::vector<bool> listed;
+    listed.reserve(paths->size());
+    LayerAttributes attributes(host);
+    for (const Bstr& path : *paths) listed.push_back(attributes.IsOnPage(path, page));
+    return listed;
+}
+
+/// Finds out which items are to be listed, and lists them when they are other ones.
+void LayersControl::List() {
+    const ComPtr<IVandraX> host = Host();
+    const unsigned generation = generation_;
+    if (!host) return;
+    const OwnHostCalls ours(*this);
+    std::optional<std::vector<bool>> onPage;
+    if (DependsOnPage(listLayers_)) onPage = LayersOnPage(host.Get());
+    if (!StillShows(host, generation)) return;
+    const LayerRecords& records = layers_.Records();
+    const bool all = listLayers_ == qzLayersCtrlListLayers_ForAllPages;
+    std::vector<bool> listed =
+        onPage ? records.Listed(*onPage) : std::vector<bool>(records.Items().size(), all);
+    if (listed == listed_) return;
+    const TreeState kept = KeptState();
+    listed_ = std::move(listed);
+    FillTree(kept);
+}
+
+// Changes
+// ------------------------------------------------------------------------------------------------------
+
+/// Brings a change that has been made here to the host, and shows it. When the host fails, what it has not
+/// taken is taken back here.
+void LayersControl::Carry(const ComPtr<IVandraX>& host, const LayerChange& change) {
+    const unsigned generation = generation_;
+    const unsigned number = ++changes_;
+    std::size_t written = 0;
+    try {
+        if (!change.writes.empty()) WriteChange(host.Get(), change, written);
+    } catch (...) {
+        if (StillShows(host, generation) && changes_ == number) {
+            layers_.Undo(change, written);
+            ShowStates();
+        }
+        throw;
+    }
+    if (StillShows(host, generation)) ShowStates();
+}
+
+void LayersControl::WriteChange(IVandraX* host, const LayerChange& change, std::size_t& written) {
+    const unsigned generation = generation_;
+    const OwnHostCalls ours(*this);
+    const qzVandraAutoRefresh suspended(host);
+    const LayerPaths paths = paths_;
+    LayerAttributes attributes(host);
+    for (const LayerWrite& write : change.writes) {
+        if (Host().Get() != host || generation_ != generation) return;
+        // The host may have come back here, and the layer may be wanted otherwise by now.
+        if (layers_.Records().All()[write.record].visible == write.visible) {
+            attributes.WriteVisible((*paths)[write.record], write.visible);
+        }
+        ++written;
+    }
+}
+
+}  // namespace qz

@@ -1,0 +1,236 @@
+// What the user does with mouse and keyboard, turned into changes of the layers and into commands.
+#include "host/object_path.h"
+#include "panes/layers/layer_menu.h"
+#include "panes/layers/layer_properties.h"
+#include "panes/layers/layers_control.h"
+#include "res/strings.h"
+#include "res/text_ids.h"
+#include "ui/platform_geometry.h"
+
+#include <algorithm>
+
+namespace qz {
+
+namespace {
+
+bool KeyIsDown(int key) noexcept { return GetKeyState(key) < 0; }
+
+/// Type-ahead looks for them.
+constexpr bool IsCharacterKey(WPARAM key) noexcept {
+    return (key >= 'A' && key <= 'Z') || (key >= '0' && key <= '9');
+}
+
+}  // namespace
+
+std::optional<LRESULT> LayersControl::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+        case WM_NOTIFY:
+            return OnNotify(*reinterpret_cast<const NMHDR*>(lParam));
+        case WM_CONTEXTMENU:
+            if (OnContextMenu(wParam, lParam)) return 0;
+            return std::nullopt;
+        case WM_SYSCOLORCHANGE:
+            if (tree_) {
+                tree_.Send(message, wParam, lParam);
+                tree_.Send(TVM_SETBKCOLOR, 0, static_cast<LPARAM>(BackColorRef()));
+            }
+            return std::nullopt;
+        default:
+            return std::nullopt;
+    }
+}
+
+std::optional<LRESULT> LayersControl::OnNotify(const NMHDR& notice) {
+    if (!tree_ || notice.hwndFrom != tree_.Handle()) return std::nullopt;
+    switch (notice.code) {
+        case NM_CUSTOMDRAW:
+            return OnCustomDraw(reinterpret_cast<const NMTVCUSTOMDRAW&>(notice));
+        case TVN_SELCHANGINGW:
+        case TVN_SELCHANGINGA:
+            return tree_.NoteSelection(reinterpret_cast<const NMTREEVIEWW&>(notice)) ? TRUE : FALSE;
+        default:
+            return std::nullopt;
+    }
+}
+
+// Mouse and keyboard
+// -------------------------------------------------------------------------------------------
+
+bool LayersControl::IsInputKey(const MSG& message) const {
+    if (!Host() || handles_.empty()) return false;
+    switch (message.wParam) {
+        case VK_HOME:
+        case VK_END:
+        case VK_LEFT:
+        case VK_UP:
+        case VK_RIGHT:
+        case VK_DOWN:
+        case VK_PRIOR:
+        case VK_NEXT:
+        case VK_SPACE:
+        case VK_ADD:
+        case VK_SUBTRACT:
+        case VK_MULTIPLY:
+            return true;
+        default:
+            return IsCharacterKey(message.wParam) && !KeyIsDown(VK_CONTROL) && !KeyIsDown(VK_MENU);
+    }
+}
+
+void LayersControl::OnPress(MousePress press, HTREEITEM handle, POINT client) {
+    if (!Host() || !handle) return;
+    if (press != MousePress::Right) return OnLeftPress(press, handle, client);
+    if (tree_.Selected() != handle) OnSelect(handle);
+}
+
+/// A check mark takes single presses only, so that a double press of it shows or hides once.
+void LayersControl::OnLeftPress(MousePress press, HTREEITEM handle, POINT client) {
+    const auto item = ItemOf(handle);
+    if (!item) return;
+    const bool twice = press == MousePress::LeftTwice;
+    switch (LayoutOf(handle, *item).PartAt(FromPlatform(client))) {
+        case LayerPart::CheckMark:
+            if (!twice) ToggleByUser(layers_.Records().Items()[*item].record);
+            return;
+        case LayerPart::ExpandMark:
+            if (!twice) tree_.Expand(handle, TVE_TOGGLE);
+            return;
+        case LayerPart::Text:
+            if (twice) {
+                tree_.Expand(handle, TVE_TOGGLE);
+                return;
+            }
+            [[fallthrough]];
+        default:
+            if (tree_.Selected() != handle) OnSelect(handle);
+    }
+}
+
+void LayersControl::OnSpace() {
+    const auto item = ItemOf(tree_.Selected());
+    if (Host() && item) ToggleByUser(layers_.Records().Items()[*item].record);
+}
+
+/// The container is asked first; the selection stays when it does not want another.
+void LayersControl::OnSelect(HTREEITEM handle) {
+    const ComPtr<IVandraX> host = Host();
+    const unsigned generation = generation_;
+    const auto item = ItemOf(handle);
+    if (!item || !events_.LayerActivated()) return;
+    if (StillShows(host, generation) && tree_ && handles_[*item] == handle) tree_.Select(handle);
+}
+
+/// A click on a heading's text or on a layer that is locked does nothing.
+void LayersControl::ToggleByUser(std::size_t record) {
+    const ComPtr<IVandraX> host = Host();
+    const LayerRecord& layer = layers_.Records().All()[record];
+    if (!layer.Switchable()) return;
+    if (locked_) {
+        MessageBeep(MB_OK);
+        return;
+    }
+    const bool show = !layer.visible;
+    if (show && layer.DisabledByParent()) return RefuseBelowHidden();
+    const auto change = layers_.Set(record, show);
+    if (!change) return;
+    try {
+        Carry(host, *change);
+    } catch (...) {
+        MessageBeep(MB_ICONWARNING);  // the user has asked for it and is told that it failed
+        throw;
+    }
+}
+
+void LayersControl::RefuseBelowHidden() {
+    const ComPtr<IVandraX> host = Host();
+    const unsigned generation = generation_;
+    if (!events_.ShowMessage(qzLayersCtrlShowMsgConsts_LayerDisabledBecauseParentDisabled)) return;
+    if (!StillShows(host, generation) || !WindowHandle()) return;
+    ShowMessageBox(LoadText(TextLanguage(), QZ_TEXT_LAYER_ABOVE_HIDDEN), MB_OK | MB_ICONINFORMATION);
+}
+
+// Context menu
+// -------------------------------------------------------------------------------------------------
+
+/// Whether the request is settled; the tree's scroll bars have menus of their own.
+bool LayersControl::OnContextMenu(WPARAM wParam, LPARAM lParam) {
+    if (!tree_ || !Host()) return false;
+    const MenuRequest request(wParam, lParam);
+    if (!request.ByKeyboard()) {
+        const LRESULT place = tree_.Send(WM_NCHITTEST, 0, lParam);
+        if (place == HTVSCROLL || place == HTHSCROLL) return false;
+    }
+    if (std::exchange(lastMenuRequest_, request) == request) return true;
+    const ComPtr<IVandraX> host = Host();
+    const unsigned generation = generation_;
+    const POINT screen = request.ByKeyboard() ? KeyboardMenuPoint() : request.ScreenPoint();
+    if (!events_.ContextSensitiveMenu(screen.x, screen.y)) return true;
+    if (!StillShows(host, generation) || !WindowHandle()) return true;
+    const auto command = ShowLayerMenu(WindowHandle(), screen, TextLanguage(), CommandState());
+    if (command && StillShows(host, generation) && CommandState().Enables(*command)) Run(*command);
+    return true;
+}
+
+/// Screen pixels: below the selected item's text, or at the pane's corner.
+POINT LayersControl::KeyboardMenuPoint() const {
+    RECT text{};
+    POINT point{};
+    const HTREEITEM selected = tree_.Selected();
+    if (selected && tree_.ItemRect(selected, true, text)) point = {text.left, text.bottom};
+    ClientToScreen(tree_.Handle(), &point);
+    return point;
+}
+
+LayerCommandState LayersControl::CommandState() const {
+    const auto& all = layers_.Records().All();
+    const auto selected = SelectedLayer();
+    return {.anyLayer = std::ranges::any_of(all, &LayerRecord::Switchable),
+            .layerSelected = selected && layers_.Records().RecordOf(*selected).Switchable(),
+            .locked = locked_ != 0,
+            .inspector = MakePropertiesDialog() != nullptr};
+}
+
+/// The selected item, when it is one of a layer.
+std::optional<std::size_t> LayersControl::SelectedLayer() const {
+    const auto item = tree_ ? ItemOf(tree_.Selected()) : std::nullopt;
+    return item && !layers_.Records().RecordOf(*item).missing ? item : std::nullopt;
+}
+
+void LayersControl::Run(LayerCommand command) {
+    const ComPtr<IVandraX> host = Host();
+    try {
+        RunCommand(command, host);
+    } catch (...) {
+        MessageBeep(MB_ICONWARNING);  // the user has asked for it and is told that it failed
+        throw;
+    }
+}
+
+void LayersControl::RunCommand(LayerCommand command, const ComPtr<IVandraX>& host) {
+    switch (command) {
+        case LayerCommand::ShowOnly:
+            return Carry(host, layers_.ShowOnly(*SelectedLayer()));
+        case LayerCommand::ShowAll:
+            return Carry(host, layers_.SetAll(true));
+        case LayerCommand::HideAll:
+            return Carry(host, layers_.SetAll(false));
+        case LayerCommand::Reset:
+            return Carry(host, layers_.Reset());
+        case LayerCommand::Properties:
+            return ShowSelectedProperties(host);
+    }
+}
+
+/// Throws E_NOTIMPL where nothing can show attributes, E_FAIL when no layer is selected.
+void LayersControl::ShowSelectedProperties(const ComPtr<IVandraX>& host) {
+    const ComPtr<IqzPropertiesDlg> dialog = MakePropertiesDialog();
+    if (!dialog) Throw(E_NOTIMPL, L"There is no dialog that shows properties");
+    const auto item = SelectedLayer();
+    if (!item) Throw(E_FAIL, L"No layer is selected");
+    const std::wstring path = LayerPath(layers_.Records().RecordOf(*item).name);
+    ComPtr<IDispatch> object;
+    ThrowIfFailed(host->GetObjectByPath(Bstr(path).Get(), &object), L"The layer is gone");
+    ShowProperties(dialog.Get(), host.Get(), object.Get(), WindowHandle());
+}
+
+}  // namespace qz

@@ -1,0 +1,109 @@
+// A host that fails at any one call of a step.
+#include "outline_fixture.h"
+
+namespace qz {
+namespace {
+
+constexpr HRESULT planned = 0x8004BEEF;
+
+class BookmarksFailMidway : public OutlineTest {
+  protected:
+    /// What must hold after any step, failed or not.
+    void CheckNothingIsLost(long number) {
+        host->ClearFaults();
+        long automatic = 0;
+        host->GetAutoRefresh(&automatic);
+        EXPECT_EQ(automatic, 1) << "after failing call " << number;
+        for (HTREEITEM item = Next(TVGN_ROOT); item; item = Next(TVGN_NEXT, item)) {
+            const HTREEITEM child = Next(TVGN_CHILD, item);
+            if (child && !Item(child).lParam) {
+                EXPECT_EQ(Next(TVGN_NEXT, child), nullptr) << "a placeholder is alone";
+            }
+        }
+        EXPECT_EQ(pane->Refresh(), S_OK) << "after failing call " << number;
+        EXPECT_EQ(Shown(), L"A+ B C+");
+    }
+
+    /// Runs `step` with its first call failing, then its second, ... until one run meets no fault; gives the
+    /// number of runs that failed.
+    long Sweep(const std::function<HRESULT()>& step) {
+        long failures = 0;
+        for (long number = 1; number < 200; ++number) {
+            SetErrorInfo(0, nullptr);
+            host->ClearLog();
+            host->FailCall(number, planned);
+            const HRESULT result = step();
+            const bool reached = CallCount(host.Get(), L"") >= number;
+            if (FAILED(result)) {
+                EXPECT_TRUE(result == planned || result == E_FAIL) << std::hex << result;
+                EXPECT_NE(TakeErrorText(), L"") << "failing call " << number;
+                ++failures;
+            }
+            CheckNothingIsLost(number);
+            if (!reached) return failures;
+        }
+        ADD_FAILURE() << "the step never ended";
+        return failures;
+    }
+};
+
+TEST_F(BookmarksFailMidway, RefreshAndExpandAll) {
+    ShowOutline();
+    // GetAutoRefresh, SetAutoRefresh, state, mode, root, then Count and Item, Title, Count of each.
+    EXPECT_EQ(Sweep([this] { return pane->Refresh(); }), 5 + 1 + 3 * 3);
+    // Below the top level a failure leaves just that bookmark unread.
+    EXPECT_EQ(Sweep([this] { return pane->ExpandAll(); }), 5 + 1 + 3 * 3);
+}
+
+TEST_F(BookmarksFailMidway, AFailedSubtreeHasOnePlaceholderAndTheRestIsExpanded) {
+    ShowOutline();
+    bool failedBelow = false;
+    for (long number = 16; number < 32; ++number) {
+        host->ClearLog();
+        host->FailCall(number, planned);
+        ASSERT_EQ(pane->ExpandAll(), S_OK);
+        host->ClearFaults();
+        const std::wstring shown = Shown();
+        const bool whole = shown == L"A[A1[A1a] A2] B C[C1]";
+        failedBelow = failedBelow || !whole;
+        EXPECT_TRUE(whole || shown == L"A[A1+ A2] B C[C1]" || shown == L"A[A1[A1a] A2] B C+" ||
+                    shown == L"A[A1+ A2] B C[C1]" || shown == L"A+ B C[C1]")
+            << number;
+    }
+    EXPECT_TRUE(failedBelow);
+}
+
+TEST_F(BookmarksFailMidway, AFailedExpansionCanBeTriedAgain) {
+    ShowOutline();
+    for (long number = 1; number <= 7; ++number) {
+        host->FailCall(number, planned);
+        Expand(Find(L"A"));
+        EXPECT_EQ(Shown(), L"A+ B C+") << number;
+        host->FailCall(1, planned);
+        ClickButtonOf(Find(L"A"));
+        EXPECT_EQ(Shown(), L"A+ B C+");
+        host->ClearFaults();
+        Expand(Find(L"A"));
+        EXPECT_EQ(Shown(), L"A[A1+ A2] B C+") << number;
+        pane->Refresh();
+    }
+}
+
+TEST_F(BookmarksFailMidway, InitializeAndTheHostsEvent) {
+    ShowOutline();
+    const auto other = MakeHost(1);
+    EXPECT_GT(Sweep([this] {
+                  const HRESULT result = pane->Initialize(host.Get());
+                  if (SinkCount(host.Get()) == 0) {
+                      EXPECT_EQ(Shown(), L"") << "nothing is left of a host that is gone";
+                      host->ClearFaults();
+                      EXPECT_EQ(pane->Initialize(host.Get()), S_OK);
+                  }
+                  return result;
+              }),
+              15);
+    Sweep([this] { return host->RaiseChange(0x8001); });
+}
+
+}  // namespace
+}  // namespace qz

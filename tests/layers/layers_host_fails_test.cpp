@@ -1,0 +1,126 @@
+// A host that fails at any one call: for every call of a step there is a run in which just that call fails.
+#include "layers_fixture.h"
+
+#include <functional>
+
+namespace qz {
+namespace {
+
+constexpr HRESULT planned = 0x8004BEEF;
+
+class LayersHostFails : public LayersTest {
+  protected:
+    void SetUp() override { Configure(L"ABcD", L"(A)[(B)(c)](D)(Heading)", L"[(c)(D)]", L"(A)", L"(c)"); }
+
+    /// Runs `step` with its first call failing, then its second, ... until one run meets no fault. After each
+    /// the host refreshes again and the pane shows what the host has.
+    void Sweep(const std::function<HRESULT()>& step, int fewest) {
+        for (int number = 1; number < 300; ++number) {
+            host->ClearLog();
+            host->FailCall(number, planned);
+            SetErrorInfo(0, nullptr);
+            const HRESULT result = step();
+            const bool reached = CallCount(host.Get(), L"") >= number;
+            if (FAILED(result)) {
+                EXPECT_EQ(result, planned);
+                EXPECT_NE(TakeErrorText(), L"");
+            }
+            host->ClearFaults();
+            PumpMessages();
+            long refresh = 0;
+            host->GetAutoRefresh(&refresh);
+            EXPECT_EQ(refresh, 1) << "failing call " << number;
+            CheckShown(number);
+            if (!reached) {
+                EXPECT_GT(number, fewest) << "the step made hardly any call";
+                return;
+            }
+        }
+        ADD_FAILURE() << "the step never ended";
+    }
+
+    /// Every mark in the tree is the host's state.
+    void CheckShown(int number) {
+        const std::wstring items = Items();
+        const std::wstring states = HostStates();
+        for (std::size_t i = 0; i < states.size(); i += 2) {
+            const std::size_t at = items.find(states[i + 1]);
+            if (at == std::wstring::npos || items[at - 1] == L'*') continue;
+            EXPECT_EQ(items[at - 1], states[i])
+                << "failing call " << number << " layer " << char(states[i + 1]);
+        }
+    }
+};
+
+TEST_F(LayersHostFails, Refresh) {
+    Open();
+    Sweep([&] { return pane->Refresh(); }, 10);
+    EXPECT_EQ(Items(), L"+A[+B -c] +D *Heading");
+}
+
+TEST_F(LayersHostFails, Initialize) {
+    window.emplace(pane.Get(), SIZE{200, 200});
+    const ULONG before = ReferencesOf(host.Get());
+    Sweep(
+        [&] {
+            pane->Reset();
+            EXPECT_EQ(ReferencesOf(host.Get()), before);
+            return pane->Initialize(host.Get());
+        },
+        12);
+}
+
+TEST_F(LayersHostFails, Toggling) {
+    Open();
+    Sweep(
+        [&] {
+            Click(L"A", Part::Check);
+            return S_OK;
+        },
+        4);
+    Sweep(
+        [&] {
+            pane->ResetToInitialVisibility();
+            host->ClearFaults();
+            host->FailCall(1 + static_cast<int>(CallCount(host.Get(), L"")) % 4, planned);
+            Click(L"D", Part::Check);
+            return S_OK;
+        },
+        1);
+}
+
+TEST_F(LayersHostFails, FollowingAChange) {
+    Open();
+    pane->put_ListLayers(qzLayersCtrlListLayers_ForCurrentPage);
+    for (int number = 1; number < 40; ++number) {
+        host->FailCall(number, planned);
+        host->RaiseChange(0xFFFF);
+        host->ClearFaults();
+        host->RaiseChange(0xFFFF);
+        EXPECT_EQ(Items(), L"+A[+B -c] +D") << "failing call " << number;
+    }
+}
+
+// A host that comes back into the pane, or ends it, while it is being written to.
+TEST_F(LayersHostFails, HostEndsThePaneWhileItWrites) {
+    Open();
+    const ComPtr<EventRecorder> other = MakeObject<EventRecorder>();
+    other->Connect(host.Get(), DIID__IVandraXEvents);
+    bool once = true;
+    other->actions[5] = [&] {
+        if (std::exchange(once, false)) pane->Refresh();
+    };
+    Click(L"A", Part::Check);
+    EXPECT_FALSE(once);
+    CheckShown(0);
+    other->actions[5] = [&] {
+        other->Disconnect();
+        End();
+    };
+    Click(L"A", Part::Check);
+    EXPECT_FALSE(pane);
+    other->Disconnect();
+}
+
+}  // namespace
+}  // namespace qz

@@ -1,0 +1,174 @@
+// Hosts that fail, lie, call back and let go at any moment.
+#include "status_fixture.h"
+
+#include "panes/status/status_reader.h"
+#include "tests/support/event_recorder.h"
+
+namespace qz {
+namespace {
+
+using enum StatusField;
+
+constexpr HRESULT planned = 0x8004BEEF;
+
+class StatusHostFails : public StatusTest {};
+
+TEST_F(StatusHostFails, AnyOneCallOfInitialize) {
+    window = std::make_unique<PaneWindow>(bar.Get(), wide);
+    const auto host = MakeHost(4);
+    SelectNew(host.Get(), L"Stamp", {1, 2, 3, 4});
+    const ULONG before = ReferencesOf(host.Get());
+    int fieldsMissing = 0;
+    for (long number = 1;; ++number) {
+        ASSERT_LT(number, 100);
+        host->ClearLog();
+        host->FailCall(number, planned);
+        const HRESULT result = bar->Initialize(host.Get());
+        const bool reached = CallCount(host.Get(), L"") >= number;
+        host->ClearFaults();
+        EXPECT_EQ(SinkCount(host.Get()), SUCCEEDED(result) ? 1 : 0) << number;
+        EXPECT_EQ(TakeErrorText().empty(), SUCCEEDED(result)) << number;
+        const bool complete = !Text(PageSize).empty() && !Text(ObjectCoords).empty() &&
+                              !Text(ObjectName).empty() && !Text(PagePosition).empty() && !Text(Zoom).empty();
+        if (SUCCEEDED(result) && !complete) ++fieldsMissing;
+        host->RaiseChange(0);
+        EXPECT_EQ(Text(ObjectCoords), SUCCEEDED(result) ? L"(1,2:3,4) w:2, h:2" : L"")
+            << "the next change mends it, " << number;
+        bar->Reset();
+        EXPECT_EQ(ReferencesOf(host.Get()), before) << number;
+        if (!reached) {
+            EXPECT_TRUE(complete);
+            break;
+        }
+    }
+    EXPECT_GE(fieldsMissing, 10) << "each call of each field was failed once";
+}
+
+TEST_F(StatusHostFails, AnyOneCallOfAChangeKeepsWholeFields) {
+    const auto host = MakeHost(4);
+    SelectNew(host.Get(), L"Stamp", {1, 2, 3, 4});
+    Show(host.Get());
+    for (long number = 1; number < 30; ++number) {
+        // Another document state each time; a field shows the old or the new one, never half of each.
+        const bool odd = number % 2 != 0;
+        host->SetAutoRefresh(0);
+        host->SetObjectAttribute(_bstr_t(L"Pages[1]"), _bstr_t(L"Width"), _variant_t(odd ? 100L : 200L));
+        host->SetObjectAttribute(_bstr_t(L"Pages[1]"), _bstr_t(L"Length"), _variant_t(odd ? 100L : 200L));
+        host->SetObjectAttribute(_bstr_t(L"Objects[Stamp]"), _bstr_t(L"Left"), _variant_t(odd ? 10L : 20L));
+        host->SetObjectAttribute(_bstr_t(L"Objects[Stamp]"), _bstr_t(L"Bottom"), _variant_t(odd ? 10L : 20L));
+        host->FailCall(number, planned);
+        host->RaiseChange(0);
+        host->ClearFaults();
+        host->SetAutoRefresh(1);
+        if (number == 1) continue;  // the state before it is the first one
+        EXPECT_TRUE(Text(PageSize) == L"Page: 100 x 100" || Text(PageSize) == L"Page: 200 x 200") << number;
+        EXPECT_TRUE(Text(ObjectCoords).starts_with(L"(10,2:3,10)") ||
+                    Text(ObjectCoords).starts_with(L"(20,2:3,20)"))
+            << number;
+    }
+}
+
+TEST_F(StatusHostFails, NoHalfPageSize) {
+    const auto host = MakeHost(4);
+    Show(host.Get());
+    for (const wchar_t* operation : {L"GetPageWidth", L"GetPageHeight"}) {
+        host->FailOperation(_bstr_t(operation), planned);
+        host->SetObjectAttribute(_bstr_t(L"Pages[1]"), _bstr_t(L"Width"), _variant_t(999L));
+        host->SetObjectAttribute(_bstr_t(L"Pages[1]"), _bstr_t(L"Length"), _variant_t(888L));
+        EXPECT_EQ(Text(PageSize), L"Page: 12240 x 15840") << operation;
+        host->ClearFaults();
+        host->SetObjectAttribute(_bstr_t(L"Pages[1]"), _bstr_t(L"Width"), _variant_t(12240L));
+        host->SetObjectAttribute(_bstr_t(L"Pages[1]"), _bstr_t(L"Length"), _variant_t(15840L));
+    }
+}
+
+TEST_F(StatusHostFails, EmptyDocument) {
+    const auto host = MakeHost(1);
+    Show(host.Get());
+    ASSERT_EQ(host->NewDocument(0, 100, 100), S_OK);
+    EXPECT_EQ(Text(PagePosition), L"0 / 0");
+    for (const StatusField field : {FirstPage, PreviousPage, PagePosition, NextPage, LastPage}) {
+        EXPECT_FALSE(Enabled(field));
+    }
+}
+
+/// Initialises, resets or releases the bar from a sink that hears the change before or after it.
+TEST_F(StatusHostFails, ResetAndReleaseWithinTheEvent) {
+    const auto host = MakeHost(3);
+    const auto other = MakeHost(7);
+    const IID events = {0x95BDD95C, 0xF91D, 0x448F, {0x87, 0x68, 0x47, 0x18, 0x6B, 0x5D, 0xBD, 0x67}};
+    const auto recorder = MakeObject<EventRecorder>();
+    recorder->Connect(host.Get(), events);
+    Show(host.Get());
+    recorder->actions[5] = [&] { bar->Reset(); };
+    host->SetCurrentPage(2);
+    EXPECT_EQ(Text(PagePosition), L"");
+    ASSERT_EQ(bar->Initialize(host.Get()), S_OK);
+    recorder->actions[5] = [&] { bar->Initialize(other.Get()); };
+    host->SetCurrentPage(3);
+    EXPECT_EQ(Text(PagePosition), L"1 / 7");
+    ASSERT_EQ(bar->Initialize(host.Get()), S_OK);
+    recorder->actions[5] = [&] {
+        window.reset();
+        bar.Reset();
+    };
+    SetFocus(Field(PagePosition));
+    SendMessageW(Field(PagePosition), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L"1"));
+    SendMessageW(Field(PagePosition), WM_KEYDOWN, VK_RETURN, 1);  // goes to page 1, and the bar goes
+    EXPECT_EQ(bar, nullptr);
+    recorder->Disconnect();
+    EXPECT_EQ(SinkCount(host.Get()), 0);
+}
+
+/// An object whose attributes are whatever the test wants.
+class OddObject final : public Object<OddObject, IDispatch> {
+  public:
+    std::map<std::wstring, _variant_t> values;
+
+    STDMETHODIMP GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
+    STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
+    STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR* names, UINT, LCID, DISPID* ids) override {
+        *ids = 9;
+        return std::wstring(*names) == L"Attribute" ? S_OK : DISP_E_UNKNOWNNAME;
+    }
+    STDMETHODIMP Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS* arguments, VARIANT* result, EXCEPINFO*,
+                        UINT*) override {
+        if (arguments->cArgs == 0) return DISP_E_MEMBERNOTFOUND;  // its value, as a number or text
+        const auto found = values.find(arguments->rgvarg[0].bstrVal);
+        return found == values.end() ? DISP_E_UNKNOWNNAME : VariantCopy(result, &found->second);
+    }
+};
+
+HRESULT CodeOf(const std::function<void()>& body) { return Guard(IID_NULL, body); }
+
+TEST(StatusReader, OddValuesOfObjects) {
+    const auto object = MakeObject<OddObject>();
+    object->values = {{L"Left", _variant_t(12.6)},
+                      {L"Top", _variant_t(L"-40")},
+                      {L"Right", _variant_t(short{7})},
+                      {L"Bottom", _variant_t(90L)},
+                      {L"Name", _variant_t(17L)}};
+    EXPECT_EQ(ReadObjectRect(object.Get()), (Rect{13, -40, 7, 90}));
+    EXPECT_EQ(ReadObjectName(object.Get()), L"17");
+    object->values[L"Name"] = _variant_t();
+    EXPECT_EQ(ReadObjectName(object.Get()), L"");
+    VARIANT nullText{};
+    nullText.vt = VT_BSTR;
+    object->values[L"Name"] = _variant_t(nullText);
+    EXPECT_EQ(ReadObjectName(object.Get()), L"");
+    VARIANT null{};
+    null.vt = VT_NULL;
+    const _variant_t odd[] = {_variant_t(null), _variant_t(L"left"), _variant_t(1e12),
+                              _variant_t(object.Get())};
+    for (const _variant_t& value : odd) {
+        object->values[L"Left"] = value;
+        EXPECT_TRUE(FAILED(CodeOf([&] { ReadObjectRect(object.Get()); })));
+    }
+    object->values[L"Name"] = _variant_t(null);
+    EXPECT_TRUE(FAILED(CodeOf([&] { ReadObjectName(object.Get()); })));
+    object->values.clear();
+    EXPECT_EQ(CodeOf([&] { ReadObjectName(object.Get()); }), DISP_E_UNKNOWNNAME);
+}
+
+}  // namespace
+}  // namespace qz
