@@ -86,6 +86,7 @@ class BookmarkControl final
     void ApplyFont();
     void ApplyColours();
     void ApplyImages();
+    void ApplyItemHeight();
     void Redraw() noexcept;
 
     BookmarkTree tree_{*this};

@@ -106,6 +106,7 @@ void BookmarkControl::ApplyFont() {
     Font font = MakePaneFont(Ambients());
     tree_.Send(WM_SETFONT, reinterpret_cast<WPARAM>(font.Get()), TRUE);
     font_ = std::move(font);
+    ApplyItemHeight();
 }
 
 void BookmarkControl::ApplyColours() {
@@ -128,7 +129,20 @@ void BookmarkControl::ApplyImages() {
     }
     tree_.Send(TVM_SETIMAGELIST, TVSIL_NORMAL, reinterpret_cast<LPARAM>(images.Get()));
     images_ = std::move(images);
+    ApplyItemHeight();
     Redraw();
+}
+
+/// The tree goes by its font alone: images get some room between them.
+void BookmarkControl::ApplyItemHeight() {
+    tree_.Send(TVM_SETITEMHEIGHT, static_cast<WPARAM>(-1));
+    int width = 0;
+    int height = 0;
+    if (!ImageList_GetIconSize(images_.Get(), &width, &height)) return;
+    const int needed = height + 2;
+    if (tree_.Send(TVM_GETITEMHEIGHT) < needed) {
+        tree_.Send(TVM_SETITEMHEIGHT, static_cast<WPARAM>(needed));
+    }
 }
 
 void BookmarkControl::Redraw() noexcept {

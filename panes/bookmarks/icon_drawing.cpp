@@ -82,9 +82,11 @@ class Mixture {
 IconColour PixelOf(std::span<const IconShape> shapes, int side, int x, int y) {
     Mixture mixture;
     const double step = gridUnits / side / samples;
-    for (int i = 0; i < samples * samples; ++i) {
-        mixture.Add(ColourAt(
-            shapes, {(x * samples + i % samples + 0.5) * step, (y * samples + i / samples + 0.5) * step}));
+    const auto middleOf = [step](int sample) { return (sample + 0.5) * step; };
+    for (int row = y * samples; row < (y + 1) * samples; ++row) {
+        for (int column = x * samples; column < (x + 1) * samples; ++column) {
+            mixture.Add(ColourAt(shapes, {middleOf(column), middleOf(row)}));
+        }
     }
     return mixture.Colour();
 }

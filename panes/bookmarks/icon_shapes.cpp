@@ -40,8 +40,10 @@ Shapes ClassicPage() {
 
 /// An open book, for a bookmark whose children are shown.
 Shapes OutlineBook(IconColour ink) {
-    return {{.points = {{8, 4.5}, {6, 3.2}, {1.5, 3.2}, {1.5, 12.5}, {6, 12.5}, {8, 13.6}}, .line = ink},
-            {.points = {{8, 4.5}, {10, 3.2}, {14.5, 3.2}, {14.5, 12.5}, {10, 12.5}, {8, 13.6}}, .line = ink}};
+    return {
+        {.points = {{7.5, 4.5}, {5.5, 3.5}, {1.5, 3.5}, {1.5, 12.5}, {5.5, 12.5}, {7.5, 13.6}}, .line = ink},
+        {.points = {{7.5, 4.5}, {9.5, 3.5}, {13.5, 3.5}, {13.5, 12.5}, {9.5, 12.5}, {7.5, 13.6}},
+         .line = ink}};
 }
 
 /// Two ribbons, one behind the other.

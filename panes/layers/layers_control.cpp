@@ -159,11 +159,12 @@ void LayersControl::Rebuild() {
 
 void LayersControl::Take(LayerDocument document) {
     const TreeState kept = KeptState();
+    LayerPaths paths = PathsOf(document.records);
     ++generation_;
     configurations_ = std::move(document.configurations);
     texts_ = std::move(document.texts);
     layers_.Start(std::move(document.records));
-    paths_ = PathsOf(layers_.Records());
+    paths_ = std::move(paths);
     // Until the pages are known.
     listed_.assign(layers_.Records().Items().size(), listLayers_ != qzLayersCtrlListLayers_None);
     FillTree(kept);
