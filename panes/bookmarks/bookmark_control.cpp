@@ -61,7 +61,7 @@ STDMETHODIMP BookmarkControl::Refresh() {
 STDMETHODIMP BookmarkControl::ExpandAll() {
     return Run([this] {
         Rebuild(everyLevel);
-        if (tree_ && tree_.Root()) tree_.Open(tree_.Root());
+        if (tree_ && tree_.Root()) tree_.Expand(tree_.Root(), TVE_EXPAND);
     });
 }
 

@@ -97,6 +97,14 @@ void BookmarkTree::LeaveUnread(HTREEITEM item) {
     InsertChildren(item, {&placeholder, 1});
 }
 
+/// Once for every parent of a large outline, hence by the shortest way.
+void BookmarkTree::Open(HTREEITEM item) {
+    opening_ = true;
+    SendToClass(TVM_EXPAND, TVE_EXPAND, reinterpret_cast<LPARAM>(item));
+    opening_ = false;
+    ShowImage(item);
+}
+
 void BookmarkTree::ShowImage(HTREEITEM item) {
     if (!FirstChild(item)) return SetImage(item, bookmarkLeaf);
     SetImage(item, Expanded(item) ? bookmarkExpanded : bookmarkCollapsed);
@@ -126,9 +134,9 @@ std::optional<LRESULT> BookmarkTree::OnNotify(const NMHDR& header) {
             return 0;
         case TVN_ITEMEXPANDINGW:
             // Whatever way has led here: an item is not expanded to show its placeholder.
-            return (change.action & TVE_EXPAND) && !EnsureRead(change.itemNew.hItem);
+            return (change.action & TVE_EXPAND) && !opening_ && !EnsureRead(change.itemNew.hItem);
         case TVN_ITEMEXPANDEDW:
-            ShowImage(change.itemNew.hItem);
+            if (!opening_) ShowImage(change.itemNew.hItem);
             return 0;
         default:
             return std::nullopt;

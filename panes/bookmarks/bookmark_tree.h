@@ -56,7 +56,8 @@ class BookmarkTree final : public TreeView {
     /// Throws E_OUTOFMEMORY; then nothing is under the item.
     std::vector<HTREEITEM> Insert(HTREEITEM under, std::vector<BookmarkEntry>& entries);
     void LeaveUnread(HTREEITEM item);
-    void Open(HTREEITEM item) { Expand(item, TVE_EXPAND); }
+    /// Expands an item whose children are all there.
+    void Open(HTREEITEM item);
 
     /// The window's notifications, as far as they are about items; nothing for others.
     std::optional<LRESULT> OnNotify(const NMHDR& header);
@@ -74,7 +75,8 @@ class BookmarkTree final : public TreeView {
 
     BookmarkTreeListener& listener_;
     std::uint64_t version_ = 0;
-    int deleting_ = 0;  ///< Deletions of the tree's own under way; their bookmarks gather in `deleted_`.
+    bool opening_ = false;  ///< `Open` is at work: nothing is to be read, and it sets the image itself.
+    int deleting_ = 0;      ///< Deletions of the tree's own under way; their bookmarks gather in `deleted_`.
     std::vector<ComPtr<IDispatch>> deleted_;
 };
 

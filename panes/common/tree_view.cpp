@@ -69,14 +69,15 @@ void TreeView::DeleteChildren(HTREEITEM parent) {
 }
 
 bool TreeView::Expanded(HTREEITEM item) const noexcept {
-    return (Send(TVM_GETITEMSTATE, reinterpret_cast<WPARAM>(item), TVIS_EXPANDED) & TVIS_EXPANDED) != 0;
+    return (SendToClass(TVM_GETITEMSTATE, reinterpret_cast<WPARAM>(item), TVIS_EXPANDED) & TVIS_EXPANDED) !=
+           0;
 }
 
 LPARAM TreeView::Data(HTREEITEM item) const {
     TVITEMW asked{};
     asked.mask = TVIF_HANDLE | TVIF_PARAM;
     asked.hItem = item;
-    return Send(TVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&asked)) ? asked.lParam : 0;
+    return SendToClass(TVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&asked)) ? asked.lParam : 0;
 }
 
 std::wstring TreeView::Text(HTREEITEM item) const {
@@ -106,7 +107,7 @@ void TreeView::SetImage(HTREEITEM item, int image) {
     changed.mask = TVIF_HANDLE | TVIF_IMAGE | TVIF_SELECTEDIMAGE;
     changed.hItem = item;
     changed.iImage = changed.iSelectedImage = image;
-    Send(TVM_SETITEMW, 0, reinterpret_cast<LPARAM>(&changed));
+    SendToClass(TVM_SETITEMW, 0, reinterpret_cast<LPARAM>(&changed));
 }
 
 HTREEITEM TreeView::ItemAt(POINT client, UINT* part) const {

@@ -61,7 +61,8 @@ class TreeView : public ChildWindow {
 
   private:
     HTREEITEM Next(UINT what, HTREEITEM item) const noexcept {
-        return reinterpret_cast<HTREEITEM>(Send(TVM_GETNEXTITEM, what, reinterpret_cast<LPARAM>(item)));
+        return reinterpret_cast<HTREEITEM>(
+            SendToClass(TVM_GETNEXTITEM, what, reinterpret_cast<LPARAM>(item)));
     }
     void Insert(HTREEITEM parent, HTREEITEM after, TreeItem& item);
 };
