@@ -1,6 +1,8 @@
 // Focus and the keyboard: who gets a key, the control or its container.
 #include "ui/control.h"
 
+#include "ui/keys.h"
+
 namespace qz {
 
 namespace {
@@ -18,9 +20,8 @@ constexpr DWORD controlDown = 2;
 constexpr DWORD altDown = 4;
 
 DWORD Modifiers() noexcept {
-    const auto down = [](int key) { return GetKeyState(key) < 0; };
-    return (down(VK_SHIFT) ? shiftDown : 0u) | (down(VK_CONTROL) ? controlDown : 0u) |
-           (down(VK_MENU) ? altDown : 0u);
+    return (KeyIsDown(VK_SHIFT) ? shiftDown : 0u) | (KeyIsDown(VK_CONTROL) ? controlDown : 0u) |
+           (KeyIsDown(VK_MENU) ? altDown : 0u);
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include "panes/common/pane_font.h"
 #include "res/strings.h"
 #include "res/text_ids.h"
+#include "ui/keys.h"
 
 namespace qz {
 
@@ -69,15 +70,8 @@ void BookmarkControl::OnAmbientChanged(DISPID id) {
 }
 
 bool BookmarkControl::IsInputKey(const MSG& message) const {
+    if (IsNavigationKey(message.wParam)) return true;
     switch (message.wParam) {
-        case VK_UP:
-        case VK_DOWN:
-        case VK_LEFT:
-        case VK_RIGHT:
-        case VK_HOME:
-        case VK_END:
-        case VK_PRIOR:
-        case VK_NEXT:
         case VK_BACK:
         case VK_ADD:
         case VK_SUBTRACT:

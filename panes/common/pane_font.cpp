@@ -1,5 +1,7 @@
 #include "panes/common/pane_font.h"
 
+#include <string_view>
+
 namespace qz {
 
 namespace {
@@ -19,14 +21,30 @@ LOGFONTW MessageFont() {
     return metrics.lfMessageFont;
 }
 
+Font MakeFont(const LOGFONTW& description) {
+    Font font(CreateFontIndirectW(&description));
+    ThrowLastErrorIf(!font, L"The font cannot be made");
+    return font;
+}
+
 }  // namespace
 
 Font MakePaneFont(const Ambient& ambients) {
     LOGFONTW description{};
     if (!AmbientFont(ambients, description)) description = MessageFont();
-    Font font(CreateFontIndirectW(&description));
-    ThrowLastErrorIf(!font, L"The font cannot be made");
-    return font;
+    return MakeFont(description);
+}
+
+Font MakeArial(int dpi) {
+    constexpr int points = 9;
+    constexpr int pointsPerInch = 72;
+    constexpr std::wstring_view face = L"Arial";
+    LOGFONTW description{};
+    description.lfHeight = -MulDiv(points, dpi, pointsPerInch);
+    description.lfWeight = FW_NORMAL;
+    description.lfCharSet = DEFAULT_CHARSET;
+    face.copy(description.lfFaceName, face.size());
+    return MakeFont(description);
 }
 
 }  // namespace qz

@@ -10,4 +10,7 @@ namespace qz {
 /// system makes none.
 Font MakePaneFont(const Ambient& ambients);
 
+/// Arial in the size of the panes that have a font of their own, for a resolution in dots per inch.
+Font MakeArial(int dpi);
+
 }  // namespace qz

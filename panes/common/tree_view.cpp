@@ -32,8 +32,7 @@ void TreeView::Create(HWND parent, const wchar_t* name, DWORD style, int id) {
 }
 
 void TreeView::InsertChildren(HTREEITEM parent, std::span<TreeItem> items) {
-    const bool empty =
-        FirstChild(parent == TVI_ROOT ? nullptr : parent) == nullptr && (parent != TVI_ROOT || !Root());
+    const bool empty = !(parent == TVI_ROOT ? Root() : FirstChild(parent));
     if (AppendsFast() || !empty) {
         for (TreeItem& item : items) Insert(parent, TVI_LAST, item);
     } else {

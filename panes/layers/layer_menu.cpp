@@ -1,21 +1,13 @@
 #include "panes/layers/layer_menu.h"
 
-#include "panes/common/popup_menu.h"
-#include "res/strings.h"
+#include "panes/common/command_menu.h"
 #include "res/text_ids.h"
 
 namespace qz {
 
 namespace {
 
-/// An entry's text id is its command id as well.
-struct Entry {
-    LayerCommand command;
-    UINT textId;
-    bool separated = false;  ///< From the entry before.
-};
-
-constexpr Entry entries[] = {
+constexpr CommandEntry<LayerCommand> entries[] = {
     {LayerCommand::ShowOnly, QZ_TEXT_SHOW_ONLY_THIS_LAYER},
     {LayerCommand::ShowAll, QZ_TEXT_SHOW_ALL_LAYERS},
     {LayerCommand::HideAll, QZ_TEXT_HIDE_ALL_LAYERS},
@@ -27,16 +19,8 @@ constexpr Entry entries[] = {
 
 std::optional<LayerCommand> ShowLayerMenu(HWND owner, POINT screen, Language language,
                                           const LayerCommandState& state) {
-    PopupMenu menu;
-    for (const Entry& entry : entries) {
-        if (entry.separated) menu.AppendSeparator();
-        menu.Append(entry.textId, LoadText(language, entry.textId), state.Enables(entry.command));
-    }
-    const UINT chosen = menu.Track(owner, screen);
-    for (const Entry& entry : entries) {
-        if (entry.textId == chosen) return entry.command;
-    }
-    return std::nullopt;
+    return AskForCommand<LayerCommand>(owner, screen, language, entries,
+                                       [&](LayerCommand command) { return state.Enables(command); });
 }
 
 }  // namespace qz

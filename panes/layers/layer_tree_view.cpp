@@ -1,5 +1,6 @@
 #include "panes/layers/layer_tree_view.h"
 
+#include "panes/common/pane_font.h"
 #include "ui/screen.h"
 
 #include <windowsx.h>
@@ -9,27 +10,10 @@
 
 namespace qz {
 
-namespace {
-
-constexpr int pointSize = 9;
-
-Font MakeFont(std::int32_t dpi) {
-    LOGFONTW font{};
-    font.lfHeight = -MulDiv(pointSize, dpi, 72);
-    font.lfCharSet = DEFAULT_CHARSET;
-    constexpr wchar_t face[] = L"Arial";
-    std::ranges::copy(face, font.lfFaceName);
-    Font made(CreateFontIndirectW(&font));
-    ThrowLastErrorIf(!made, L"The font of the layers cannot be made");
-    return made;
-}
-
-}  // namespace
-
 void LayerTreeView::Create(HWND parent) {
     const std::int32_t dpi = ScreenDpi().height;
     metrics_ = LayerMetrics::ForDpi(dpi);
-    font_ = MakeFont(dpi);
+    font_ = MakeArial(dpi);
     TreeView::Create(parent, L"Tree View",
                      TVS_HASBUTTONS | TVS_LINESATROOT | TVS_SHOWSELALWAYS | TVS_DISABLEDRAGDROP, 1);
     Send(WM_SETFONT, reinterpret_cast<WPARAM>(font_.Get()));
@@ -37,10 +21,10 @@ void LayerTreeView::Create(HWND parent) {
     const auto natural = static_cast<std::int32_t>(Send(TVM_GETITEMHEIGHT));
     Send(TVM_SETITEMHEIGHT, static_cast<WPARAM>(std::max(natural, metrics_.rowHeight)));
     // Empty pictures, that make the window leave room for the check marks and know where they are.
-    places_.reset(ImageList_Create(metrics_.checkPlace, metrics_.checkMark, ILC_COLOR, 3, 0));
+    places_ = ImageList(ImageList_Create(metrics_.checkPlace, metrics_.checkMark, ILC_COLOR, 3, 0));
     ThrowLastErrorIf(!places_, L"The places of the check marks cannot be made");
-    ImageList_SetImageCount(places_.get(), 3);
-    Send(TVM_SETIMAGELIST, TVSIL_STATE, reinterpret_cast<LPARAM>(places_.get()));
+    ImageList_SetImageCount(places_.Get(), 3);
+    Send(TVM_SETIMAGELIST, TVSIL_STATE, reinterpret_cast<LPARAM>(places_.Get()));
 }
 
 bool LayerTreeView::NoteSelection(const NMTREEVIEWW& notice) noexcept {

@@ -5,8 +5,7 @@
 #include "panes/common/tree_view.h"
 #include "panes/layers/layer_item_layout.h"
 #include "ui/gdi.h"
-
-#include <memory>
+#include "ui/image_list.h"
 
 namespace qz {
 
@@ -55,12 +54,8 @@ class LayerTreeView : public TreeView {
     std::optional<LRESULT> OnButton(UINT message, LPARAM lParam);
     LRESULT WithStateImage(UINT message, WPARAM wParam, LPARAM lParam);
 
-    struct DestroyImages {
-        void operator()(HIMAGELIST images) const noexcept { ImageList_Destroy(images); }
-    };
-
     LayerTreeListener& listener_;
-    std::unique_ptr<std::remove_pointer_t<HIMAGELIST>, DestroyImages> places_;
+    ImageList places_;
     LayerMetrics metrics_ = LayerMetrics::ForDpi(96);
     Font font_;
     HTREEITEM noted_ = nullptr;

@@ -5,6 +5,7 @@
 #include "panes/layers/layers_control.h"
 #include "res/strings.h"
 #include "res/text_ids.h"
+#include "ui/keys.h"
 #include "ui/platform_geometry.h"
 
 #include <algorithm>
@@ -12,8 +13,6 @@
 namespace qz {
 
 namespace {
-
-bool KeyIsDown(int key) noexcept { return GetKeyState(key) < 0; }
 
 /// Type-ahead looks for them.
 constexpr bool IsCharacterKey(WPARAM key) noexcept {
@@ -58,15 +57,8 @@ std::optional<LRESULT> LayersControl::OnNotify(const NMHDR& notice) {
 
 bool LayersControl::IsInputKey(const MSG& message) const {
     if (!Host() || handles_.empty()) return false;
+    if (IsNavigationKey(message.wParam)) return true;
     switch (message.wParam) {
-        case VK_HOME:
-        case VK_END:
-        case VK_LEFT:
-        case VK_UP:
-        case VK_RIGHT:
-        case VK_DOWN:
-        case VK_PRIOR:
-        case VK_NEXT:
         case VK_SPACE:
         case VK_ADD:
         case VK_SUBTRACT:

@@ -9,6 +9,7 @@
 #include "panes/status/status_reader.h"
 #include "res/strings.h"
 #include "res/text_ids.h"
+#include "ui/keys.h"
 #include "ui/platform_geometry.h"
 
 #include <windowsx.h>
@@ -25,8 +26,6 @@ constexpr UINT dpiChangedMessage = 0x02E3;
 constexpr UINT firstUnitCommand = 1;  // the unit codes, from 1 on
 constexpr unsigned unitTexts[] = {QZ_TEXT_TWIPS, QZ_TEXT_MILLIMETRES, QZ_TEXT_INCHES};
 constexpr UINT lastUnitCommand = firstUnitCommand + std::size(unitTexts) - 1;
-
-bool KeyIsDown(int key) noexcept { return GetKeyState(key) < 0; }
 
 /// Keys with which an entry field is edited, and which are commands of many containers.
 bool EditsText(WPARAM key) noexcept {

@@ -1,5 +1,6 @@
 #include "panes/status/status_view.h"
 
+#include "panes/common/pane_font.h"
 #include "panes/status/status_painter.h"
 #include "ui/accessible_name.h"
 #include "ui/platform_geometry.h"
@@ -10,21 +11,6 @@
 namespace qz {
 
 namespace {
-
-constexpr int pointsPerInch = 72;
-constexpr int fontPoints = 9;
-
-Font MakeBarFont(int dpi) {
-    LOGFONTW description{};
-    description.lfHeight = -MulDiv(fontPoints, dpi, pointsPerInch);
-    description.lfWeight = FW_NORMAL;
-    description.lfCharSet = DEFAULT_CHARSET;
-    constexpr std::wstring_view face = L"Arial";
-    face.copy(description.lfFaceName, face.size());
-    Font font(CreateFontIndirectW(&description));
-    ThrowLastErrorIf(!font, L"The status bar's font cannot be made");
-    return font;
-}
 
 /// Measures texts in a font.
 class TextMeter {
@@ -90,7 +76,7 @@ bool StatusView::Show(StatusContent content, SIZE bar) {
 }
 
 void StatusView::UseFont() {
-    Font font = MakeBarFont(fontDpi_);
+    Font font = MakeArial(fontDpi_);
     for (const StatusField field : statusFields) {
         if (windows_[field]) windows_[field].Send(WM_SETFONT, reinterpret_cast<WPARAM>(font.Get()), TRUE);
     }

@@ -2,6 +2,7 @@
 #include "panes/thumbnails/drag_rules.h"
 #include "panes/thumbnails/thumbnail_control.h"
 #include "panes/thumbnails/thumbnail_menu.h"
+#include "ui/keys.h"
 #include "ui/platform_geometry.h"
 
 #include <windowsx.h>
@@ -11,8 +12,6 @@ namespace qz {
 namespace {
 
 POINT PointIn(LPARAM lParam) noexcept { return {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)}; }
-
-bool KeyIsDown(int key) noexcept { return GetKeyState(key) < 0; }
 
 ClickModifiers ModifiersOf(WPARAM keys) noexcept {
     return {.shift = (keys & MK_SHIFT) || KeyIsDown(VK_SHIFT),
@@ -140,17 +139,9 @@ bool ThumbnailControl::SystemSeesDrag(WPARAM keys) {
 
 bool ThumbnailControl::IsInputKey(const MSG& message) const {
     if (!Host() || model_.Records().empty()) return false;
+    if (IsNavigationKey(message.wParam)) return true;
     const auto& bounds = model_.Selection().GetBounds();
     switch (message.wParam) {
-        case VK_HOME:
-        case VK_END:
-        case VK_LEFT:
-        case VK_UP:
-        case VK_RIGHT:
-        case VK_DOWN:
-        case VK_PRIOR:
-        case VK_NEXT:
-            return true;
         // With nothing to do here these are the container's.
         case VK_DELETE:
         case VK_ESCAPE:
