@@ -23,6 +23,9 @@ void RunAll() {
     MeasureCopying(report);
     MeasureLayers(report);
     MeasureOutline(report);
+    MeasureInspector(report);
+    MeasureFormatting(report);
+    MeasureXml(report);
     report.PrintSummary();
 }
 

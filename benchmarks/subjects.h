@@ -26,7 +26,16 @@ void MeasureCopying(Report& report);
 /// Toggling a layer with thousands below it, against the bare writes to the host.
 void MeasureLayers(Report& report);
 
+/// Loading large and deep XML documents, against a bare pass of the reader.
+void MeasureXml(Report& report);
+
 /// Rebuilding and expanding large outlines, against the bare host calls and insertions.
 void MeasureOutline(Report& report);
+
+/// Listing many attributes of an object, against the bare host calls and insertions.
+void MeasureInspector(Report& report);
+
+/// Formatting a number, against the system's own function.
+void MeasureFormatting(Report& report);
 
 }  // namespace qz::bench

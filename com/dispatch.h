@@ -38,6 +38,8 @@ class Dispatch : public I {
         if (iid != IID_NULL) return DISP_E_UNKNOWNINTERFACE;
         if (!parameters) return E_POINTER;
         try {
+            // Script languages put objects by reference; no member of ours tells that from a plain put.
+            if (flags & DISPATCH_PROPERTYPUTREF) flags = DISPATCH_PROPERTYPUT;
             // The members set IErrorInfo themselves, and the type info carries it into `exception`; a guard
             // here would overwrite it.
             const ComPtr<I> alive = this;

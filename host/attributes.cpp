@@ -40,4 +40,16 @@ long ToLong(const VARIANT& value) {
     return number.lVal;
 }
 
+std::wstring ToText(const VARIANT& value) {
+    if (value.vt == VT_EMPTY || value.vt == VT_NULL) return {};
+    _variant_t text;
+    const VARIANT* source = &value;
+    if (value.vt != VT_BSTR) {
+        ThrowIfFailed(VariantChangeType(&text, const_cast<VARIANT*>(&value), VARIANT_NOUSEROVERRIDE, VT_BSTR),
+                      L"A value of the host is not a text");
+        source = &text;
+    }
+    return {source->bstrVal, source->bstrVal + SysStringLen(source->bstrVal)};
+}
+
 }  // namespace qz

@@ -7,6 +7,7 @@
 
 #include <comdef.h>
 
+#include <string>
 #include <string_view>
 
 namespace qz {
@@ -25,5 +26,9 @@ void WriteAttribute(IVandraX* host, std::wstring_view path, std::wstring_view at
 /// A value of any numeric type, or a text that spells a number, as a 32-bit integer; DISP_E_TYPEMISMATCH or
 /// DISP_E_OVERFLOW is thrown for anything else.
 long ToLong(const VARIANT& value);
+
+/// A value as a text, written as any user would read it; empty for no value. DISP_E_TYPEMISMATCH is thrown
+/// for what is no text.
+std::wstring ToText(const VARIANT& value);
 
 }  // namespace qz

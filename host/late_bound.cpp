@@ -1,27 +1,12 @@
 #include "host/late_bound.h"
 
+#include "com/exception_info.h"
+
 #include <vector>
 
 namespace qz {
 
 namespace {
-
-/// Frees the texts that a failed call left behind.
-struct ExceptionInfo : EXCEPINFO {
-    ExceptionInfo() : EXCEPINFO{} {}
-    ~ExceptionInfo() {
-        SysFreeString(bstrSource);
-        SysFreeString(bstrDescription);
-        SysFreeString(bstrHelpFile);
-    }
-    ExceptionInfo(const ExceptionInfo&) = delete;
-    ExceptionInfo& operator=(const ExceptionInfo&) = delete;
-
-    HRESULT Code() {
-        if (pfnDeferredFillIn) pfnDeferredFillIn(this);
-        return FAILED(scode) ? scode : DISP_E_EXCEPTION;
-    }
-};
 
 /// Arguments last to first, as Invoke takes them.
 std::vector<_variant_t> Reversed(std::initializer_list<_variant_t> arguments) {
@@ -36,9 +21,13 @@ _variant_t LateBoundMember::Get(IDispatch* object, std::initializer_list<_varian
     return Invoke(object, DISPATCH_PROPERTYGET | DISPATCH_METHOD, parameters);
 }
 
-void LateBoundMember::Put(IDispatch* object, const _variant_t& value) {
+void LateBoundMember::Put(IDispatch* object, const _variant_t& value,
+                          std::initializer_list<_variant_t> arguments) {
+    std::vector<_variant_t> reversed{value};  // the value is the last argument
+    const std::vector<_variant_t> others = Reversed(arguments);
+    reversed.insert(reversed.end(), others.begin(), others.end());
     DISPID named = DISPID_PROPERTYPUT;
-    DISPPARAMS parameters{const_cast<_variant_t*>(&value), &named, 1, 1};  // Invoke only reads it
+    DISPPARAMS parameters{reversed.data(), &named, static_cast<UINT>(reversed.size()), 1};
     Invoke(object, DISPATCH_PROPERTYPUT, parameters);
 }
 
@@ -67,7 +56,9 @@ _variant_t LateBoundMember::Invoke(IDispatch* object, WORD flags, DISPPARAMS& pa
     const HRESULT code = object->Invoke(IdOn(object), IID_NULL, LOCALE_USER_DEFAULT, flags, &parameters, slot,
                                         &exception, nullptr);
     if (code == DISP_E_EXCEPTION) {
-        Throw(exception.Code(), exception.bstrDescription ? exception.bstrDescription : name_);
+        const HRESULT inner = exception.Code();
+        const std::wstring description = exception.Description();
+        Throw(inner, description.empty() ? name_ : description);
     }
     if (FAILED(code)) Throw(code, L"The host object's member \"" + name_ + L"\" fails");
     return result;

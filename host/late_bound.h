@@ -20,7 +20,7 @@ class LateBoundMember {
     explicit LateBoundMember(std::wstring name) : name_(std::move(name)) {}
 
     _variant_t Get(IDispatch* object, std::initializer_list<_variant_t> arguments = {});
-    void Put(IDispatch* object, const _variant_t& value);
+    void Put(IDispatch* object, const _variant_t& value, std::initializer_list<_variant_t> arguments = {});
     _variant_t Call(IDispatch* object, std::initializer_list<_variant_t> arguments = {});
 
   private:

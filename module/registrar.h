@@ -1,8 +1,8 @@
 // Applies registration scripts to a Classes key of the registry, and takes them back.
 #pragma once
 
+#include "com/registry_key.h"
 #include "module/registration_script.h"
-#include "module/registry_key.h"
 
 #include <functional>
 #include <vector>

@@ -69,6 +69,9 @@ class qzSimpleXmlElement final : public IqzSimpleXmlElement, private qzNameValue
     void RemoveAttribute(const IqzSimpleXmlAttribute* attribute) override;
     void RemoveAllAttributes() override { attributes_.clear(); }
 
+    /// SetValue for text that is already measured.
+    void SetText(std::wstring_view text) { value = text; }
+
     const std::wstring& Name() const noexcept { return name; }
     const std::wstring& Value() const noexcept { return value; }
     /// Null for a root and for an element that stands alone.

@@ -12,4 +12,9 @@ namespace qz {
 /// looked for behind a text that the writer may have written, one that begins with a line feed.
 std::wstring_view ValueOfText(std::wstring_view text, std::size_t depth) noexcept;
 
+/// Whether the text can be written as an element's value, nothing escaped, and the document still be read: it
+/// holds no "<", no "&", no "]]>" and only characters that XML has. (Line breaks at its ends do not come
+/// back.)
+bool ReadsBack(std::wstring_view text) noexcept;
+
 }  // namespace qz

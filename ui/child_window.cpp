@@ -7,22 +7,27 @@
 namespace qz {
 
 void ChildWindow::Create(HWND parent, const ChildOptions& options) {
-    if (handle_) Throw(E_UNEXPECTED, L"The child window is there already");
     const RECT& bounds = options.bounds;
-    handle_ = CreateWindowExW(
-        options.extendedStyle, options.className, options.text, options.style | WS_CHILD | WS_CLIPSIBLINGS,
-        bounds.left, bounds.top, bounds.right - bounds.left, bounds.bottom - bounds.top, parent,
-        reinterpret_cast<HMENU>(static_cast<INT_PTR>(options.id)), ThisModule(), nullptr);
-    ThrowLastErrorIf(!handle_, L"A child window cannot be made");
-    classProcedure_ = reinterpret_cast<WNDPROC>(GetWindowLongPtrW(handle_, GWLP_WNDPROC));
-    SetWindowSubclass(handle_, &Procedure, 0, reinterpret_cast<DWORD_PTR>(this));
+    Attach(CreateWindowExW(options.extendedStyle, options.className, options.text,
+                           options.style | WS_CHILD | WS_CLIPSIBLINGS, bounds.left, bounds.top,
+                           bounds.right - bounds.left, bounds.bottom - bounds.top, parent,
+                           reinterpret_cast<HMENU>(static_cast<INT_PTR>(options.id)), ThisModule(), nullptr));
+}
+
+void ChildWindow::Attach(HWND child) {
+    ThrowLastErrorIf(!child, L"A child window cannot be made");
+    if (handle_) Throw(E_UNEXPECTED, L"The child window is there already");
+    handle_ = child;
+    // Not the window's own procedure, nor one id for all: there may be several of these on the window.
+    classProcedure_ = reinterpret_cast<WNDPROC>(GetClassLongPtrW(handle_, GCLP_WNDPROC));
+    SetWindowSubclass(handle_, &Procedure, Id(), reinterpret_cast<DWORD_PTR>(this));
 }
 
 void ChildWindow::Destroy() noexcept {
     if (!handle_) return;
     const HWND handle = handle_;
     handle_ = nullptr;
-    RemoveWindowSubclass(handle, &Procedure, 0);
+    RemoveWindowSubclass(handle, &Procedure, Id());
     DestroyWindow(handle);
 }
 
@@ -34,7 +39,7 @@ LRESULT CALLBACK ChildWindow::Procedure(HWND handle, UINT message, WPARAM wParam
 LRESULT ChildWindow::Dispatch(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
     // Nothing of this object may be used after a call out: the message may end it.
     if (message == WM_NCDESTROY) {
-        RemoveWindowSubclass(handle, &Procedure, 0);
+        RemoveWindowSubclass(handle, &Procedure, Id());
         handle_ = nullptr;
         return DefSubclassProc(handle, message, wParam, lParam);
     }

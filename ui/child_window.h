@@ -37,6 +37,9 @@ class ChildWindow {
 
     /// Throws when the system refuses. There must be none yet.
     void Create(HWND parent, const ChildOptions& options);
+    /// Takes over a child window that is there already, such as one of a dialog's template. Several may
+    /// attach to one window; the last one sees its messages first.
+    void Attach(HWND child);
     void Destroy() noexcept;
 
     LRESULT Send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const noexcept {
@@ -58,6 +61,7 @@ class ChildWindow {
     static LRESULT CALLBACK Procedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
                                       DWORD_PTR self) noexcept;
     LRESULT Dispatch(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
+    UINT_PTR Id() const noexcept { return reinterpret_cast<UINT_PTR>(this); }
 
     HWND handle_ = nullptr;
     WNDPROC classProcedure_ = nullptr;

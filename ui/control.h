@@ -207,9 +207,9 @@ class Control : public IOleObject,
     COLORREF BackColorRef() const;
 
     /// Shows a message box over the container's window and gives the button pressed; 0 when it could not be
-    /// shown. No caption. The container is modal meanwhile, and messages are handled: look again at
+    /// shown. The container is modal meanwhile, and messages are handled: look again at
     /// everything afterwards.
-    int ShowMessageBox(const std::wstring& text, UINT style);
+    int ShowMessageBox(const std::wstring& text, UINT style, const std::wstring& caption = {});
 
     /// The control as an IUnknown to be counted (not its identity).
     IUnknown* Self() noexcept { return static_cast<IOleObject*>(this); }

@@ -1,5 +1,7 @@
 #include "sample/container/host_view.h"
 
+#include "com/safe_array.h"
+#include "sample/container/automation.h"
 #include "sample/container/error_text.h"
 
 #include <comdef.h>
@@ -49,6 +51,55 @@ long HostView::CurrentPage() const {
 
 void HostView::GoToPage(long page) {
     RequireSuccess(host_->SetCurrentPage(page), L"The page cannot be shown");
+}
+
+ComPtr<IDispatch> HostView::ObjectAt(const wchar_t* path) const {
+    ComPtr<IDispatch> object;
+    RequireSuccess(host_->GetObjectByPath(_bstr_t(path), &object), L"The object cannot be found");
+    return object;
+}
+
+/// Null when nothing is.
+ComPtr<IDispatch> HostView::Selected() const {
+    _variant_t current;
+    RequireSuccess(host_->GetCurrentObject(&current), L"The selected object cannot be read");
+    return current.vt == VT_DISPATCH ? ComPtr<IDispatch>(current.pdispVal) : nullptr;
+}
+
+ComPtr<IDispatch> HostView::SelectedOrDocument() const {
+    const ComPtr<IDispatch> selected = Selected();
+    return selected ? selected : Document();
+}
+
+void HostView::AddField() {
+    ComPtr<IDispatch> field;
+    constexpr long formField = 6;
+    RequireSuccess(host_->CreateObject(formField, _bstr_t(L"Field"), &field), L"No field can be made");
+    const _bstr_t path(GetProperty(field.Get(), L"Path"));
+    RequireSuccess(host_->SelectObject(path, 0), L"The field cannot be selected");
+}
+
+void HostView::SelectNextObject() {
+    const std::wstring page = L"Pages[" + std::to_wstring(CurrentPage()) + L"]";
+    _variant_t list;
+    RequireSuccess(host_->GetObjectAttribute(_bstr_t(page.c_str()), _bstr_t(L"Objects"), &list),
+                   L"The objects of the page cannot be read");
+    if (list.vt != (VT_ARRAY | VT_DISPATCH)) return;
+    const SafeArrayView<IDispatch*> view(list.parray);
+    const std::span<IDispatch*> objects = view.Elements();
+    if (objects.empty()) return;
+    const ComPtr<IDispatch> selected = Selected();
+    const _bstr_t before = selected ? _bstr_t(GetProperty(selected.Get(), L"Path")) : _bstr_t();
+    size_t next = 0;
+    for (size_t i = 0; i < objects.size(); ++i) {
+        if (_bstr_t(GetProperty(objects[i], L"Path")) == before) next = (i + 1) % objects.size();
+    }
+    const _bstr_t path(GetProperty(objects[next], L"Path"));
+    RequireSuccess(host_->SelectObject(path, 0), L"The object cannot be selected");
+}
+
+void HostView::SelectAllObjects() {
+    RequireSuccess(host_->SelectObjects(1), L"The objects cannot be selected");
 }
 
 LANGID HostView::Language() const {

@@ -39,10 +39,22 @@ class HostView {
     long CurrentPage() const;  ///< 1-based.
     void GoToPage(long page);
 
+    /// The object selected, or the document itself.
+    ComPtr<IDispatch> SelectedOrDocument() const;
+    ComPtr<IDispatch> Document() const { return ObjectAt(L"Document"); }
+    ComPtr<IDispatch> ObjectAt(const wchar_t* path) const;
+    /// Makes a form field on the current page, and selects it.
+    void AddField();
+    /// Selects the object of the current page that follows the one selected, the first one behind the last.
+    void SelectNextObject();
+    void SelectAllObjects();
+
     LANGID Language() const;
     void SetLanguage(LANGID language);
 
   private:
+    ComPtr<IDispatch> Selected() const;
+
     ComPtr<IReferenceHost> host_;
     std::optional<EventConnection> events_;
 };

@@ -36,17 +36,31 @@ PerSide<int> Fit(const DockRequest& request) {
     return extents;
 }
 
-/// Part `index` of `count` equal parts of a length; the parts fill it without a gap.
-int PartStart(int length, size_t index, size_t count) {
-    return static_cast<int>(static_cast<long long>(length) * static_cast<long long>(index) /
-                            static_cast<long long>(count));
+/// Where `before` of `all` shares of a length end; parts so made fill it without a gap.
+int PartStart(int length, int before, int all) {
+    return static_cast<int>(static_cast<long long>(length) * before / all);
 }
 
-Area Share(const Area& dock, DockSide side, size_t index, size_t count) {
+int ShareOf(const DockRequest& request, size_t pane) {
+    return request.shares.empty() ? 1 : request.shares[pane];
+}
+
+/// The shares of a side's panes, those up to `end` only.
+int SharesUpTo(const DockRequest& request, DockSide side, size_t end) {
+    int shares = 0;
+    for (size_t pane = 0; pane < end; ++pane) {
+        if (request.panes[pane] == side) shares += ShareOf(request, pane);
+    }
+    return shares;
+}
+
+Area PlaceOf(const DockRequest& request, const Area& dock, size_t pane) {
+    const DockSide side = request.panes[pane];
     const bool across = side == DockSide::Bottom;
     const int length = across ? dock.width : dock.height;
-    const int start = PartStart(length, index, count);
-    const int part = PartStart(length, index + 1, count) - start;
+    const int all = SharesUpTo(request, side, request.panes.size());
+    const int start = PartStart(length, SharesUpTo(request, side, pane), all);
+    const int part = PartStart(length, SharesUpTo(request, side, pane + 1), all) - start;
     return across ? Area{dock.left + start, dock.top, part, dock.height}
                   : Area{dock.left, dock.top + start, dock.width, part};
 }
@@ -74,10 +88,8 @@ DockLayout Arrange(const DockRequest& request) {
     const int centreStart = extents[Left] + leftGap;
     layout.centre = {centreStart, 0, std::max(0, rightStart - rightGap - centreStart), upper};
 
-    PerSide<size_t> placed;
-    for (const DockSide side : request.panes) {
-        const auto count = static_cast<size_t>(std::ranges::count(request.panes, side));
-        layout.panes.push_back(Share(docks[side], side, placed[side]++, count));
+    for (size_t pane = 0; pane < request.panes.size(); ++pane) {
+        layout.panes.push_back(PlaceOf(request, docks[request.panes[pane]], pane));
     }
     return layout;
 }

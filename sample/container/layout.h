@@ -38,8 +38,10 @@ struct PerSide {
 struct DockRequest {
     int width = 0;  ///< The room to share out.
     int height = 0;
-    /// The side of each pane. The panes of one side share it in equal parts, in their order.
+    /// The side of each pane. The panes of one side share it in their order.
     std::span<const DockSide> panes;
+    /// How large the part of each pane is, relative to the others of its side; empty: equal parts.
+    std::span<const int> shares;
     /// Width of the left and right side, height of the bottom; shrunk when the centre would get too small.
     PerSide<int> extents;
     int splitter = 0;        ///< Width of the gap between a side and the centre.

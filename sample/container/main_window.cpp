@@ -84,6 +84,7 @@ void MainWindow::OpenDocument(const std::wstring& path, int page) {
     status_.ShowLine(name + L" opened");
     positionStale_ = true;
     if (page > 1) host_->GoToPage(page);
+    workspace_->Inspect(host_->SelectedOrDocument());
 }
 
 void MainWindow::Show(int showCommand) {
@@ -206,6 +207,7 @@ void MainWindow::OnMinimumSize(MINMAXINFO& info) const noexcept {
 
 /// Ends the controls while their windows are whole, then the host that they are attached to.
 void MainWindow::OnClosing() noexcept {
+    properties_ = nullptr;
     workspace_.reset();
     host_.reset();
     frame_->Detach();

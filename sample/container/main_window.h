@@ -80,6 +80,22 @@ class MainWindow final : public AppWindow, private FrameShell {
     bool HasThumbnails() const;
     void ChangeLanguage(LANGID language);
 
+    // main_window_objects.cpp
+    bool HasPages() const { return host_->PageCount() > 0; }
+    void NewField() { host_->AddField(); }
+    void SelectNextObject() { host_->SelectNextObject(); }
+    void SelectAllObjects() { host_->SelectAllObjects(); }
+    void ShowObjectProperties();
+    void ShowDocumentProperties();
+    void MakePropertiesDialog();
+
+    // main_window_tools.cpp
+    void ShowDocumentSettings();
+    void ShowDocxSettings();
+    void ShowNUpSettings();
+    void ShowGrid();
+    void RunTool(long command);
+
     ComPtr<InPlaceFrame> frame_;
     PaneEnvironment environment_;
     StatusStrip status_;
@@ -87,6 +103,8 @@ class MainWindow final : public AppWindow, private FrameShell {
     std::optional<bool> answer_;
     std::unique_ptr<HostView> host_;
     std::unique_ptr<Workspace> workspace_;
+    ComPtr<IDispatch> properties_;  ///< The properties dialog, once it was called for.
+    long gridSteps_ = 0;            ///< As the grid's dialog was left, in twips.
     HACCEL keys_ = nullptr;
     HWND focusBefore_ = nullptr;  ///< Where the focus was when the window was left.
     bool positionStale_ = true;   ///< The status strip does not tell the current page yet.

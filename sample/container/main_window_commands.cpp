@@ -31,6 +31,15 @@ std::span<const MainWindow::Command> MainWindow::Commands() noexcept {
         {QZ_PAGE_PREVIOUS, &MainWindow::PreviousPage, &MainWindow::HasPageBefore},
         {QZ_PAGE_NEXT, &MainWindow::NextPage, &MainWindow::HasPageAfter},
         {QZ_PAGE_LAST, &MainWindow::LastPage, &MainWindow::HasPageAfter},
+        {QZ_OBJECT_NEW_FIELD, &MainWindow::NewField, &MainWindow::HasPages},
+        {QZ_OBJECT_NEXT, &MainWindow::SelectNextObject, &MainWindow::HasPages},
+        {QZ_OBJECT_ALL, &MainWindow::SelectAllObjects, &MainWindow::HasPages},
+        {QZ_OBJECT_PROPERTIES, &MainWindow::ShowObjectProperties, nullptr},
+        {QZ_DOCUMENT_PROPERTIES, &MainWindow::ShowDocumentProperties, nullptr},
+        {QZ_TOOL_DOCUMENT_SETTINGS, &MainWindow::ShowDocumentSettings, nullptr},
+        {QZ_TOOL_DOCX_SETTINGS, &MainWindow::ShowDocxSettings, nullptr},
+        {QZ_TOOL_NUP_SETTINGS, &MainWindow::ShowNUpSettings, nullptr},
+        {QZ_TOOL_GRID, &MainWindow::ShowGrid, nullptr},
     };
     return commands;
 }

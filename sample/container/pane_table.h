@@ -28,6 +28,7 @@ struct PaneRow {
     std::span<const InitialProperty> properties;
     PaneEventHandler onEvent = nullptr;  ///< Null: events are only logged.
     PaneKind kind = PaneKind::Pane;
+    int share = 1;  ///< The part of its side, relative to the side's other panes.
 };
 
 std::span<const PaneRow> PaneTable() noexcept;

@@ -1,6 +1,9 @@
 #include "sample/container/workspace.h"
 
+#include "sample/container/automation.h"
 #include "sample/container/dpi.h"
+
+#include "generated/qzVandraExt.h"
 
 #include <windowsx.h>
 
@@ -27,6 +30,7 @@ Workspace::Workspace(HWND parent, std::span<const PaneRow> rows, const PaneEnvir
     for (const PaneRow& row : rows) {
         panes_.push_back(std::make_unique<Pane>(Handle(), row, environment));
         sides_.push_back(row.side);
+        shares_.push_back(row.share);
         extents_[row.side] = std::max(extents_[row.side], row.extent);
         fixed_[row.side] = row.kind == PaneKind::Bar;
     }
@@ -41,6 +45,13 @@ Workspace::~Workspace() {
 
 void Workspace::AttachPanes() {
     for (const auto& pane : panes_) pane->Attach(host_.Automation());
+    Inspect(host_.SelectedOrDocument());
+}
+
+void Workspace::Inspect(const ComPtr<IDispatch>& object) const {
+    for (const Pane* const pane : PanesOf(CLSID_qzPropCtrl)) {
+        PutProperty(pane->Control().Get(), L"Object", _variant_t(object.Get()));
+    }
 }
 
 std::vector<Pane*> Workspace::PanesOf(REFCLSID classId) const {
@@ -97,6 +108,7 @@ DockRequest Workspace::Request() const {
     request.width = client.right;
     request.height = client.bottom;
     request.panes = sides_;
+    request.shares = shares_;
     for (const DockSide side : dockSides) request.extents[side] = Scaled(Handle(), extents_[side]);
     request.fixed = fixed_;
     request.splitter = Scaled(Handle(), splitterWidth);

@@ -23,6 +23,8 @@ class Workspace final : public AppWindow {
 
     /// Hands the host to every pane, the first time or afresh.
     void AttachPanes();
+    /// Lets the inspectors show an object of the host.
+    void Inspect(const ComPtr<IDispatch>& object) const;
     /// The panes whose control is of that class.
     std::vector<Pane*> PanesOf(REFCLSID classId) const;
     void EnvironmentChanged();
@@ -53,6 +55,7 @@ class Workspace final : public AppWindow {
     HostView& host_;
     std::vector<std::unique_ptr<Pane>> panes_;
     std::vector<DockSide> sides_;  ///< Of each pane.
+    std::vector<int> shares_;      ///< Of each pane.
     PerSide<int> extents_;         ///< At 96 dots per inch.
     PerSide<bool> fixed_;          ///< Sides that hold bars.
     DockLayout layout_;

@@ -44,6 +44,7 @@ class HostAttribute : public Object<HostAttribute, Dispatch<IHostAttribute>> {
         return Session().Call(LateBound::AttributeValue, IID_IHostAttribute, [&] {
             RequirePointer(value);
             VariantInit(value);
+            if (Session().ReadOverride(object_.Key(), description_->name, value)) return;
             PutValue(ReadAttribute(object_.Model().Doc(), object_.Key(), description_->name), Session(),
                      value);
         });

@@ -108,6 +108,24 @@ ObjectKey HostModel::CreateObject(int32_t type, std::wstring name) {
     return {ObjectKey::Kind::Object, object.id};
 }
 
+void HostModel::RemoveObject(ObjectKey key) {
+    const DocumentObject* const object =
+        key.kind == ObjectKey::Kind::Object ? document_.objects.Find(key.id) : nullptr;
+    if (!object || (object->page == 0 && !IsAction(object->type))) {
+        throw AccessError(AccessFailure::NotAllowed, "Only objects on pages and actions can be removed");
+    }
+    const size_t selected = Selection().size();
+    document_.objects.Remove(key.id);
+    NoteContent(Selection().size() == selected ? change::objects : change::objects | change::selection);
+}
+
+void HostModel::AddAttribute(ObjectKey key, AttributeDescription description, const Value& value) {
+    DocumentObject* const object =
+        key.kind == ObjectKey::Kind::Object ? document_.objects.Find(key.id) : nullptr;
+    if (!object) throw AccessError(AccessFailure::NotAllowed, "Pages take no further attributes");
+    sample::AddAttribute(*object, std::move(description), value);
+}
+
 std::vector<ObjectKey> HostModel::Selection() const {
     std::vector<ObjectKey> alive = selection_;
     std::erase_if(alive, [this](ObjectKey key) { return !Exists(document_, key); });

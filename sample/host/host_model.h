@@ -48,6 +48,10 @@ class HostModel {
     /// A new object on the current page, or a new action, which stands on no page.
     ObjectKey CreateObject(int32_t type, std::wstring name);
 
+    /// Takes an object off its page, or an action out of the document; anything else throws.
+    void RemoveObject(ObjectKey key);
+    void AddAttribute(ObjectKey key, AttributeDescription description, const Value& value);
+
     /// Selected objects, in the order they were selected; those that are gone are left out.
     std::vector<ObjectKey> Selection() const;
     void Select(ObjectKey key, bool keepOthers);

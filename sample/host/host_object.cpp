@@ -52,6 +52,8 @@ STDMETHODIMP HostObject::get_Attribute(BSTR name, VARIANT* value) {
         [&] {
             RequirePointer(value);
             VariantInit(value);
+            const HostSession& session = reference_.Session();
+            if (session.ReadOverride(reference_.Key(), TextView(name), value)) return;
             const Value read = ReadAttribute(reference_.Model().Doc(), reference_.Key(), TextView(name));
             PutValue(read, reference_.Session(), value);
         },

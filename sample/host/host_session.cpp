@@ -35,6 +35,18 @@ HRESULT PlannedFailure(REFIID iid, Operation operation, HRESULT code) noexcept {
     return Guard(iid, [&] { Throw(code, L"Planned failure of " + std::wstring(NameOf(operation))); });
 }
 
+bool HostSession::ReadOverride(std::wstring_view path, std::wstring_view attribute, VARIANT* value) const {
+    if (overrides_.empty()) return false;
+    const auto found = overrides_.find({std::wstring(path), std::wstring(attribute)});
+    if (found == overrides_.end()) return false;
+    ThrowIfFailed(VariantCopy(value, const_cast<_variant_t*>(&found->second)));
+    return true;
+}
+
+bool HostSession::ReadOverride(ObjectKey key, std::wstring_view attribute, VARIANT* value) const {
+    return !overrides_.empty() && ReadOverride(PathOf(model.Doc(), key), attribute, value);
+}
+
 ComPtr<ITypeInfo> HostSession::TypeInfoOf(REFIID iid) {
     for (const auto& [known, info] : typeInfos_) {
         if (known == iid) return info;

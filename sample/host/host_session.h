@@ -5,6 +5,9 @@
 #include "sample/host/call_recorder.h"
 #include "sample/host/host_model.h"
 
+#include <comdef.h>
+
+#include <map>
 #include <memory>
 #include <string>
 #include <utility>
@@ -42,6 +45,16 @@ class HostSession : public std::enable_shared_from_this<HostSession> {
     /// The description of one of the objects' dual interfaces, loaded once. Throws when there is none.
     ComPtr<ITypeInfo> TypeInfoOf(REFIID iid);
 
+    /// Lets an attribute read as any value whatever.
+    void Override(std::wstring_view path, std::wstring_view attribute, const VARIANT& value) {
+        overrides_[{std::wstring(path), std::wstring(attribute)}] = value;
+    }
+    void ClearOverrides() noexcept { overrides_.clear(); }
+    /// Copies the value that an attribute of the object with this path is to read as; false when there is
+    /// none.
+    bool ReadOverride(std::wstring_view path, std::wstring_view attribute, VARIANT* value) const;
+    bool ReadOverride(ObjectKey key, std::wstring_view attribute, VARIANT* value) const;
+
     /// The last step of an operation that may have changed something; objects may be gone afterwards.
     void Settle(bool redraw = true) {
         const auto alive = shared_from_this();
@@ -50,6 +63,7 @@ class HostSession : public std::enable_shared_from_this<HostSession> {
 
   private:
     std::vector<std::pair<IID, ComPtr<ITypeInfo>>> typeInfos_;
+    std::map<std::pair<std::wstring, std::wstring>, _variant_t> overrides_;
 };
 
 /// Inside a body run by `Call`: turns errors of the model into those of the boundary.

@@ -34,6 +34,7 @@ enum class LateBound {
     HostEncrypt128,
     HostCreateObject,
     HostSelectObjects,
+    HostSelectedObjects,
     HostSettingsKeyPath,
     StreamLoad,
     StreamSave,
@@ -46,8 +47,8 @@ constexpr std::array lateBoundNames = {
     L"Attributes.Item",   L"Attributes._NewEnum", L"Attribute.Reading", L"Attribute.Value",
     L"Bookmark.Count",    L"Bookmark.Item",       L"Bookmark._NewEnum", L"Bookmark.Title",
     L"Bookmark.Activate", L"Bookmark.Edit",       L"Encrypt",           L"Encrypt128",
-    L"CreateObject",      L"SelectObjects",       L"SettingsKeyPath",   L"Stream.Load",
-    L"Stream.Save"};
+    L"CreateObject",      L"SelectObjects",       L"SelectedObjects",   L"SettingsKeyPath",
+    L"Stream.Load",       L"Stream.Save"};
 static_assert(lateBoundNames.size() == static_cast<size_t>(LateBound::Last) + 1);
 
 /// One number for all of them: the places first.

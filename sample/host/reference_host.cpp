@@ -27,6 +27,7 @@ MemoryHost::MemoryHost()
 
 void MemoryHost::FinalRelease() {
     session_->owner = nullptr;
+    session_->ClearOverrides();  // which may hold objects of the session
     events_.DisconnectAll();
     view_.reset();
 }

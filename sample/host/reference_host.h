@@ -65,6 +65,7 @@ class MemoryHost
     STDMETHODIMP Encrypt128(BSTR owner, BSTR user, long permissions) override;
     STDMETHODIMP CreateObject(long type, BSTR name, IDispatch** object) override;
     STDMETHODIMP SelectObjects(long all) override;
+    STDMETHODIMP get_SelectedObjects(VARIANT* objects) override;
     STDMETHODIMP get_SettingsKeyPath(BSTR* path) override;
     STDMETHODIMP put_SettingsKeyPath(BSTR path) override;
 
@@ -74,6 +75,9 @@ class MemoryHost
     STDMETHODIMP AddPages(long pages, long width, long height) override;
     STDMETHODIMP AddLayer(BSTR name, BSTR displayName, long visible) override;
     STDMETHODIMP SelectObject(BSTR path, long keepOthers) override;
+    STDMETHODIMP RemoveObject(BSTR path) override;
+    STDMETHODIMP AddAttribute(BSTR path, BSTR name, long category, long flags, long type, BSTR description,
+                              BSTR choices, VARIANT value) override;
     STDMETHODIMP put_Mode(long mode) override;
     STDMETHODIMP put_LanguageId(long language) override;
     STDMETHODIMP ShowIn(long parentWindow) override;
@@ -100,8 +104,6 @@ class MemoryHost
     HostSession& Streamed() override { return *session_; }
 
   private:
-    using Overrides = std::map<std::pair<std::wstring, std::wstring>, _variant_t>;
-
     void ChangesMade(bool redraw) override;
     void DrawNow() override;
     void TakeFocus() override;
@@ -127,7 +129,6 @@ class MemoryHost
     ConnectionPoint events_;
     PagePainter painter_;
     std::unique_ptr<PageView> view_;
-    Overrides overrides_;
     std::wstring settingsKeyPath_;
     short languageId_;
     long hiddenInterfaces_ = 0;

@@ -1,4 +1,5 @@
 // Members called by name, and those for the container and for tests.
+#include "com/safe_array.h"
 #include "sample/document/document_file.h"
 #include "sample/host/file_bytes.h"
 #include "sample/host/host_object.h"
@@ -56,6 +57,17 @@ STDMETHODIMP MemoryHost::SelectObjects(long all) {
         all);
 }
 
+STDMETHODIMP MemoryHost::get_SelectedObjects(VARIANT* objects) {
+    return Call(LateBound::HostSelectedObjects, [&] {
+        RequirePointer(objects);
+        VariantInit(objects);
+        std::vector<ComPtr<IDispatch>> selected;
+        for (const ObjectKey key : Model().Selection()) selected.push_back(MakeHostObject(*session_, key));
+        objects->parray = MakeObjectArray(selected).Detach();
+        objects->vt = VT_ARRAY | VT_DISPATCH;
+    });
+}
+
 STDMETHODIMP MemoryHost::get_SettingsKeyPath(BSTR* path) {
     return Call(LateBound::HostSettingsKeyPath, [&] {
         RequirePointer(path);
@@ -100,6 +112,27 @@ STDMETHODIMP MemoryHost::SelectObject(BSTR path, long keepOthers) {
     return Extra([&] {
         Model().Select(Require(path), keepOthers != 0);
         session_->Settle();
+    });
+}
+
+STDMETHODIMP MemoryHost::RemoveObject(BSTR path) {
+    return Extra([&] {
+        Model().RemoveObject(Require(path));
+        session_->Settle();
+    });
+}
+
+STDMETHODIMP MemoryHost::AddAttribute(BSTR path, BSTR name, long category, long flags, long type,
+                                      BSTR description, BSTR choices, VARIANT value) {
+    return Extra([&] {
+        AttributeDescription described;
+        described.name = TextView(name);
+        described.category = static_cast<uint32_t>(category);
+        described.flags = static_cast<uint32_t>(flags);
+        described.type = static_cast<uint32_t>(type);
+        described.description = TextView(description);
+        described.choices = TextView(choices);
+        Model().AddAttribute(Require(path), std::move(described), ValueOf(value, Model().Doc()));
     });
 }
 
@@ -204,13 +237,11 @@ STDMETHODIMP MemoryHost::put_HiddenInterfaces(long bits) {
 }
 
 STDMETHODIMP MemoryHost::OverrideAttribute(BSTR path, BSTR attribute, VARIANT value) {
-    return Extra([&] {
-        overrides_[{std::wstring(TextView(path)), std::wstring(TextView(attribute))}] = value;
-    });
+    return Extra([&] { session_->Override(TextView(path), TextView(attribute), value); });
 }
 
 STDMETHODIMP MemoryHost::ClearOverrides() {
-    overrides_.clear();
+    session_->ClearOverrides();
     return S_OK;
 }
 

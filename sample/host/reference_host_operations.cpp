@@ -97,10 +97,7 @@ STDMETHODIMP MemoryHost::SetCurrentPage(long page) {
 }
 
 void MemoryHost::ReadAttributeInto(BSTR path, BSTR attribute, VARIANT* value) {
-    if (!overrides_.empty()) {
-        const auto found = overrides_.find({std::wstring(TextView(path)), std::wstring(TextView(attribute))});
-        if (found != overrides_.end()) return ThrowIfFailed(VariantCopy(value, &found->second));
-    }
+    if (session_->ReadOverride(TextView(path), TextView(attribute), value)) return;
     const Document& document = Model().Doc();
     const std::optional<ObjectPath> parsed = ParseObjectPath(TextView(path));
     const bool isPage = parsed && parsed->kind == PathKind::Page && document.pages.Holds(parsed->number);

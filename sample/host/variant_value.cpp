@@ -130,12 +130,6 @@ struct Putter {
 
 }  // namespace
 
-BSTR MakeText(std::wstring_view text) {
-    const BSTR made = SysAllocStringLen(text.data(), static_cast<UINT>(text.size()));
-    if (!made) Throw(E_OUTOFMEMORY);
-    return made;
-}
-
 Value ValueOf(const VARIANT& variant, const Document& document) {
     if (!(variant.vt & VT_BYREF)) return ValueOfPlain(variant, document);
     _variant_t plain;

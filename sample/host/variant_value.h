@@ -1,15 +1,10 @@
 // Values of the model as variants, and back.
 #pragma once
 
+#include "com/text.h"
 #include "sample/host/host_session.h"
 
 namespace qz::sample {
-
-/// An owned copy of a text. Throws E_OUTOFMEMORY.
-BSTR MakeText(std::wstring_view text);
-
-/// The text of a BSTR, null being empty.
-inline std::wstring_view TextView(BSTR text) { return {text ? text : L"", SysStringLen(text)}; }
 
 /// Any variant that holds a value of the model, by value or by reference: numbers, Booleans, texts, arrays of
 /// numbers, arrays of objects of `document`. Throws E_INVALIDARG for anything else.

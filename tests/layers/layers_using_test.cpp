@@ -1,5 +1,6 @@
 // What the user does with the pane, and the events that he causes.
 #include "layers_fixture.h"
+#include "tests/support/during_modal.h"
 
 namespace qz {
 namespace {
@@ -144,16 +145,20 @@ TEST_F(LayersUsing, LockedRefusesEveryChange) {
     EXPECT_EQ(HostStates(), L"+A+B");
 }
 
-TEST_F(LayersUsing, PropertiesNeedADialog) {
+TEST_F(LayersUsing, PropertiesOpenADialogOnTheLayer) {
     Configure(L"A", L"(A)");
     Open();
-    Click(L"A", Part::Text);
-    ComPtr<IClassFactory> factory;
-    if (SUCCEEDED(module.GetClassObject(CLSID_qzPropertiesDlg, IID_PPV_ARGS(&factory)))) {
-        GTEST_SKIP() << "the module has the dialog";
-    }
-    EXPECT_EQ(pane->LayerProperties(), E_NOTIMPL);
+    EXPECT_EQ(pane->LayerProperties(), E_FAIL) << "no layer is selected";
     EXPECT_NE(TakeErrorText(), L"");
+    Click(L"A", Part::Text);
+    wchar_t caption[100] = L"";
+    const DuringModal during([&] {
+        const HWND dialog = GetAncestor(GetActiveWindow(), GA_ROOT);
+        GetWindowTextW(dialog, caption, 100);
+        SendMessageW(dialog, WM_CLOSE, 0, 0);
+    });
+    EXPECT_EQ(pane->LayerProperties(), S_OK);
+    EXPECT_STREQ(caption, L"Properties for: A");
 }
 
 // Asking for the menu and choosing from it.
@@ -201,7 +206,7 @@ TEST_F(LayersMenu, EntriesRunTheirCommands) {
     Open();
     EXPECT_EQ(Ask(L"D", 0),
               L"Show Only This Layer|Show All Layers|Hide All Layers|Reset to Initial "
-              L"Visibility|~Properties...");
+              L"Visibility|Properties...");
     EXPECT_EQ(Selected(), Item(L"D"));
     EXPECT_EQ(TakeWrites(), L"( -A -B )");
     Ask(L"c", 1);

@@ -113,19 +113,33 @@ class ManifestContext {
 
 TEST_F(EntryPoints, TheManifestCreatesWithoutRegistration) {
     ASSERT_EQ(module_.UnregisterServer(), S_OK);
-    ComPtr<IqzThumbnailCtrl> pane;
-    ASSERT_EQ(CoCreateInstance(CLSID_qzThumbnailCtrl, nullptr, CLSCTX_INPROC_SERVER, IID_PPV_ARGS(&pane)),
-              REGDB_E_CLASSNOTREG);
+    struct Class {
+        std::wstring progId;
+        CLSID classId;
+        IID interfaceId;
+    };
+    const Class classes[] = {
+        {L"QzVandraExt.qzThumbnailCtrl", CLSID_qzThumbnailCtrl, IID_IqzThumbnailCtrl},
+        {L"QzVandraExt.qzFormatter", CLSID_qzFormatter, IID_IqzFormatter},
+        {L"QzVandraExt.qzCategory", CLSID_qzCategory, IID_IqzCategory},
+        {L"QzVandraExt.qzFormat", CLSID_qzFormat, IID_IqzFormat},
+    };
+    const auto create = [](const Class& each, REFCLSID classId) {
+        ComPtr<IUnknown> object;
+        return CoCreateInstance(classId, nullptr, CLSCTX_INPROC_SERVER, each.interfaceId,
+                                reinterpret_cast<void**>(object.GetAddressOf()));
+    };
+    for (const Class& each : classes) EXPECT_EQ(create(each, each.classId), REGDB_E_CLASSNOTREG);
     const ManifestContext context;
     ASSERT_TRUE(context.Active()) << GetLastError();
-    for (const wchar_t* progId : {L"QzVandraExt.qzThumbnailCtrl", L"QzVandraExt.qzThumbnailCtrl.1"}) {
-        CLSID classId = {};  // a stand-in that the context resolves, not the class id itself
-        EXPECT_EQ(CLSIDFromProgID(progId, &classId), S_OK);
-        EXPECT_EQ(CoCreateInstance(classId, nullptr, CLSCTX_INPROC_SERVER, IID_PPV_ARGS(&pane)), S_OK);
+    for (const Class& each : classes) {
+        for (const std::wstring& progId : {each.progId, each.progId + L".1"}) {
+            CLSID classId = {};  // a stand-in that the context resolves, not the class id itself
+            EXPECT_EQ(CLSIDFromProgID(progId.c_str(), &classId), S_OK);
+            EXPECT_EQ(create(each, classId), S_OK);
+        }
+        EXPECT_EQ(create(each, each.classId), S_OK);
     }
-    EXPECT_EQ(CoCreateInstance(CLSID_qzThumbnailCtrl, nullptr, CLSCTX_INPROC_SERVER, IID_PPV_ARGS(&pane)),
-              S_OK);
-    pane.Reset();
     CoFreeUnusedLibrariesEx(0, 0);
 }
 

@@ -16,14 +16,32 @@ struct Class {
     std::wstring name;
     std::wstring id;
     std::wstring versionIndependent;
+    const wchar_t* threading = L"Apartment";
+    bool control = true;
+    const wchar_t* key = nullptr;  ///< Where the name without version leads here; null: as it reads.
+    const wchar_t* prefix = L"QzVandraExt.";  ///< Of both names.
+    bool versioned = true;
 };
 
-// The classes that the module serves so far, all of them controls.
+// The classes that the module serves so far.
 const Class classes[] = {
     {L"qzBookmarkCtrl", L"{B12592F0-6748-46E2-BCC8-38788B852506}", L"QzVandraExt.qzBookmarkCtrl"},
     {L"qzLayersCtrl", L"{CC8649C0-24F7-483B-8F09-505077C23D94}", L"QzVandraExt.qzLayersCtrl"},
     {L"qzThumbnailCtrl", L"{560395C7-50BB-4B91-971B-B7432D935AA6}", L"QzVandraExt.qzThumbnailCtrl"},
     {L"qzStatusCtrl", L"{AA4B6D08-6252-4080-819A-3BDE87080668}", L"qzVandraExt.qzStatusCtrl"},
+    {L"qzPropCtrl", L"{302D8D00-3D56-42FB-A979-954C7D9AC4C5}", L"qzVandraExt.qzPropCtrl", L"Apartment", true,
+     L"QzPropertyDialog.qzPropCtrl"},
+    {L"qzPropertiesDlg", L"{F7C96B43-3F7A-403B-87CA-646D629C45BA}", L"QzVandraExt.qzPropertiesDlg",
+     L"Apartment", false},
+    {L"qzGridUnitsDlg", L"{D153159E-EE13-475E-94EA-47FB0E82FCDD}", L"QzVandraExt.qzGridUnitsDlg",
+     L"Apartment", false},
+    {L"qzDocSettingsDlg", L"{C176F8FB-F1E9-460B-9C41-E34493FF1C45}", L"QzVandraExt.qzDocSettingsDlg",
+     L"Apartment", false, nullptr, L"QzvandraExt."},
+    {L"qzFormatter", L"{816F7E96-8C4D-4E9C-ACF0-088C2F3505C4}", L"QzVandraExt.qzFormatter", L"both", false},
+    {L"qzCategory", L"{591FB06F-1EEB-4C9C-8C3A-ACA84FAE477F}", L"QzVandraExt.qzCategory", L"Both", false},
+    {L"qzFormat", L"{27081A24-B18E-4FE8-BFC1-7B3B594508EA}", L"QzVandraExt.qzFormat", L"Both", false},
+    {L"qzPluginUIDialogs", L"{4F765042-5F64-4EE2-AD5C-EDC18E69F8C2}", L"QzVandraExt.qzPluginUIDialogs",
+     L"Apartment", false, nullptr, L"QzVandraExt.", false},
 };
 
 struct Interface {
@@ -79,24 +97,28 @@ void Expect(RegistryListing& expected, const std::wstring& key, const std::wstri
 }
 
 void ExpectClass(RegistryListing& expected, const Class& served, const std::wstring& modulePath) {
-    const std::wstring progId = L"QzVandraExt." + served.name;
-    for (const std::wstring& name : {progId, progId + L".1"}) {
+    const std::wstring progId = served.prefix + served.name;
+    const std::wstring unversioned = served.key ? served.key : progId;
+    const std::wstring best = served.versioned ? progId + L".1" : unversioned;
+    for (const std::wstring& name : {unversioned, best}) {
         Expect(expected, name, served.name + L" Class");
         Expect(expected, name + L"\\CLSID", served.id);
     }
-    Expect(expected, progId + L"\\CurVer", progId + L".1");
+    if (served.versioned) Expect(expected, unversioned + L"\\CurVer", best);
     const std::wstring key = L"CLSID\\" + served.id;
     Expect(expected, key, served.name + L" Class");
-    Expect(expected, key + L"\\ProgID", progId + L".1");
+    Expect(expected, key + L"\\ProgID", best);
     Expect(expected, key + L"\\VersionIndependentProgID", served.versionIndependent);
     Expect(expected, key + L"\\InprocServer32", modulePath);
+    Expect(expected, key + L"\\TypeLib", libraryId);
+    Expect(expected, key + L"\\Version", L"6.5");
+    expected[key + L"\\InprocServer32|ThreadingModel"] = served.threading;
+    expected[key + L"\\Programmable"];
+    if (!served.control) return;
     Expect(expected, key + L"\\ToolboxBitmap32", modulePath + L", 101");
     Expect(expected, key + L"\\MiscStatus", L"0");
     Expect(expected, key + L"\\MiscStatus\\1", L"131473");
-    Expect(expected, key + L"\\TypeLib", libraryId);
-    Expect(expected, key + L"\\Version", L"6.5");
-    expected[key + L"\\InprocServer32|ThreadingModel"] = L"Apartment";
-    for (const wchar_t* flag : {L"Programmable", L"Control", L"Insertable"}) expected[key + L"\\" + flag];
+    for (const wchar_t* flag : {L"Control", L"Insertable"}) expected[key + L"\\" + flag];
 }
 
 RegistryListing ExpectedClasses(const std::wstring& modulePath) {

@@ -1,7 +1,7 @@
 // The registry as a flat list, to be compared before and after.
 #pragma once
 
-#include "module/registry_key.h"
+#include "com/registry_key.h"
 
 #include <map>
 #include <string>

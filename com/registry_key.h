@@ -1,4 +1,4 @@
-// A registry key: the owner of an open handle and the few operations that registration needs.
+// A registry key: the owner of an open handle and the few operations that are needed.
 #pragma once
 
 #include <windows.h>
@@ -31,7 +31,8 @@ class RegistryKey {
     ~RegistryKey();
 
     /// Nothing when the key is not there. A predefined key is as good a parent as any.
-    static std::optional<RegistryKey> Open(HKEY parent, const std::wstring& path);
+    static std::optional<RegistryKey> Open(HKEY parent, const std::wstring& path,
+                                           REGSAM access = KEY_READ | KEY_WRITE);
     /// Makes the last part of the path if need be; `created` tells.
     static RegistryKey Create(HKEY parent, const std::wstring& path, bool* created = nullptr);
 

@@ -1,4 +1,4 @@
-#include "module/registry_key.h"
+#include "com/registry_key.h"
 
 #include "com/error.h"
 
@@ -25,9 +25,9 @@ RegistryKey::~RegistryKey() {
     if (key_) RegCloseKey(key_);
 }
 
-std::optional<RegistryKey> RegistryKey::Open(HKEY parent, const std::wstring& path) {
+std::optional<RegistryKey> RegistryKey::Open(HKEY parent, const std::wstring& path, REGSAM access) {
     HKEY key = nullptr;
-    const LSTATUS status = RegOpenKeyExW(parent, path.c_str(), 0, KEY_READ | KEY_WRITE, &key);
+    const LSTATUS status = RegOpenKeyExW(parent, path.c_str(), 0, access, &key);
     if (NotThere(status)) return std::nullopt;
     Check(status, L"Cannot open the registry key", path);
     return RegistryKey(key);
@@ -44,7 +44,8 @@ RegistryKey RegistryKey::Create(HKEY parent, const std::wstring& path, bool* cre
 }
 
 std::optional<RegistryValue> RegistryKey::Value(const std::wstring& name) const {
-    RegistryValue value;
+    constexpr std::size_t usuallyEnough = 1024;
+    RegistryValue value{REG_NONE, std::vector<BYTE>(usuallyEnough)};
     for (;;) {
         DWORD size = static_cast<DWORD>(value.bytes.size());
         const LSTATUS status =

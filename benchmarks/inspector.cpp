@@ -1,0 +1,142 @@
+#include "benchmarks/subjects.h"
+
+#include "com/error.h"
+#include "host/bstr.h"
+#include "sample/host/reference_host.h"
+#include "tests/module/loaded_module.h"
+#include "tests/support/pane_window.h"
+
+#include "generated/qzVandraExt.h"
+
+#include <commctrl.h>
+#include <comdef.h>
+
+#include <optional>
+#include <string>
+
+namespace qz::bench {
+
+namespace {
+
+constexpr int attributeCount = 2'000;
+
+/// A host with one object that has many attributes of one category, a text each.
+struct Inspected {
+    Inspected() {
+        ThrowIfFailed(host->NewDocument(1, 12240, 15840));
+        const Bstr name(L"Subject");
+        ThrowIfFailed(host->CreateObject(6, name.Get(), &object));
+        const Bstr path(L"Objects[Subject]"), description(L"One of many"), choices(L"");
+        for (int i = 0; i < attributeCount; ++i) {
+            const Bstr attribute(L"Attribute " + std::to_wstring(i));
+            ThrowIfFailed(host->AddAttribute(path.Get(), attribute.Get(), '*', 0, 14, description.Get(),
+                                             choices.Get(), _variant_t(L"text")));
+        }
+    }
+
+    ComPtr<IReferenceHost> host = MakeObject<sample::MemoryHost>();
+    ComPtr<IDispatch> object;
+};
+
+/// The readings and insertions that filling the list cannot do without.
+class BareList {
+  public:
+    BareList()
+        : list_(CreateWindowExW(0, L"LISTBOX", L"", WS_POPUP | WS_VSCROLL | LBS_NOTIFY, 0, 0, 200, 300,
+                                nullptr, nullptr, nullptr, nullptr)) {
+        ThrowLastErrorIf(!list_, L"The list cannot be made");
+    }
+    ~BareList() { DestroyWindow(list_); }
+    BareList(const BareList&) = delete;
+    BareList& operator=(const BareList&) = delete;
+
+    void Fill() {
+        SendMessageW(list_, WM_SETREDRAW, FALSE, 0);
+        SendMessageW(list_, LB_RESETCONTENT, 0, 0);
+        const _variant_t attributes = Get(inspected_.object.Get(), L"Attributes");
+        const _variant_t enumerator = Invoke(attributes.pdispVal, DISPID_NEWENUM);
+        ComPtr<IEnumVARIANT> items;
+        ThrowIfFailed(enumerator.punkVal->QueryInterface(IID_PPV_ARGS(&items)));
+        for (_variant_t item; items->Next(1, &item, nullptr) == S_OK; item.Clear()) Insert(item.pdispVal);
+        SendMessageW(list_, WM_SETREDRAW, TRUE, 0);
+    }
+
+  private:
+    void Insert(IDispatch* attribute) {
+        if (!category_) {
+            category_ = IdOf(attribute, L"Category"), flags_ = IdOf(attribute, L"Flags");
+            name_ = IdOf(attribute, L"Name"), index_ = IdOf(attribute, L"Index");
+        }
+        if (Invoke(attribute, category_).lVal == 0 || (Invoke(attribute, flags_).lVal & 1)) return;
+        const _variant_t name = Invoke(attribute, name_);
+        const LRESULT entry = SendMessageW(list_, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(name.bstrVal));
+        SendMessageW(list_, LB_SETITEMDATA, static_cast<WPARAM>(entry), Invoke(attribute, index_).lVal);
+    }
+
+    static DISPID IdOf(IDispatch* object, const wchar_t* name) {
+        DISPID id = 0;
+        LPOLESTR names = const_cast<LPOLESTR>(name);  // only reads it
+        ThrowIfFailed(object->GetIDsOfNames(IID_NULL, &names, 1, LOCALE_USER_DEFAULT, &id));
+        return id;
+    }
+    static _variant_t Invoke(IDispatch* object, DISPID id) {
+        DISPPARAMS none{};
+        _variant_t result;
+        ThrowIfFailed(object->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT,
+                                     DISPATCH_PROPERTYGET | DISPATCH_METHOD, &none, &result, nullptr,
+                                     nullptr));
+        return result;
+    }
+    static _variant_t Get(IDispatch* object, const wchar_t* name) {
+        return Invoke(object, IdOf(object, name));
+    }
+
+    Inspected inspected_;
+    HWND list_;
+    DISPID category_ = 0, flags_ = 0, name_ = 0, index_ = 0;
+};
+
+/// The inspector with all attributes listed.
+class Inspector {
+  public:
+    Inspector() {
+        ComPtr<IClassFactory> factory;
+        ThrowIfFailed(module_.GetClassObject(CLSID_qzPropCtrl, IID_PPV_ARGS(&factory)));
+        ThrowIfFailed(factory->CreateInstance(nullptr, IID_PPV_ARGS(&pane_)));
+        window_.emplace(pane_.Get(), SIZE{300, 500});
+        ThrowIfFailed(pane_->put_VandraX(inspected_.host.Get()));
+    }
+    ~Inspector() {
+        window_.reset();
+        pane_->put_VandraX(nullptr);
+    }
+    Inspector(const Inspector&) = delete;
+    Inspector& operator=(const Inspector&) = delete;
+
+    /// A time is worth nothing when the work was not done.
+    void Fill() {
+        ThrowIfFailed(pane_->put_Object(inspected_.object.Get()));
+        constexpr int listId = 205;
+        const HWND inner = window_->Child(L"#32770");
+        if (SendDlgItemMessageW(inner, listId, LB_GETCOUNT, 0, 0) < attributeCount) {
+            Throw(E_UNEXPECTED, L"The attributes are not listed");
+        }
+    }
+
+  private:
+    LoadedModule module_;
+    Inspected inspected_;
+    ComPtr<IqzPropCtrl> pane_;
+    std::optional<PaneWindow> window_;
+};
+
+}  // namespace
+
+void MeasureInspector(Report& report) {
+    Inspector inspector;
+    BareList bare;
+    report.AddTime("list 2,000 attributes to the bare host calls and insertions",
+                   MeasureBoth([&] { inspector.Fill(); }, [&] { bare.Fill(); }), 1.5);
+}
+
+}  // namespace qz::bench

@@ -1,0 +1,64 @@
+#include "dialogs/dispatcher/tool_commands.h"
+
+#include "dialogs/dispatcher/record_commands.h"
+#include "dialogs/document/doc_settings_dlg.h"
+
+#include "generated/qzVandraExt.h"
+#include "generated/vandra_x.h"
+
+#include <comdef.h>
+
+#include <algorithm>
+#include <string>
+
+namespace qz {
+
+namespace {
+
+HRESULT RunDocumentSettings(const ToolCall& call) {
+    const ComPtr<DocSettingsDlg> dialog = MakeObject<DocSettingsDlg>();
+    ThrowIfFailed(dialog->Initialize(call.host.Get()), L"The document settings need a host");
+    const _variant_t parent(static_cast<long>(reinterpret_cast<LONG_PTR>(call.parent)));
+    ThrowIfFailed(dialog->DoModal(parent), L"The document settings cannot be shown");
+    return S_OK;
+}
+
+constexpr ToolCommand commands[] = {
+    {qzAutoBookmarks, L"automatic bookmarks", nullptr},
+    {qzAutoHyperlinks, L"automatic hyperlinks", nullptr},
+    {qzDigitalSignature, L"digital signature", nullptr},
+    {qzAddPageNumbers, L"page numbers", nullptr},
+    {qzApplicationPreferences, L"application preferences", nullptr},
+    {qzDocumentSplit, L"split document", nullptr},
+    {qzDocumentSettings, L"document settings", RunDocumentSettings},
+    {qzInsertPdf, L"insert PDF", nullptr},
+    {qzExportToDOCX, L"DOCX export settings", RunDocxSettings},
+    {qzAddWatermarks, L"watermarks", nullptr},
+    {qzNUpSettings, L"N-up settings", RunNUpSettings},
+    {qzPrintPreview, L"print preview", nullptr},
+};
+
+}  // namespace
+
+const ToolCommand& RequireCommand(long number) {
+    const auto found =
+        std::ranges::find_if(commands, [&](const ToolCommand& each) { return each.number == number; });
+    if (found == std::end(commands)) {
+        Throw(E_NOTIMPL, L"There is no dialog with the number " + std::to_wstring(number));
+    }
+    if (!found->run) {
+        Throw(E_NOTIMPL, L"The dialog \"" + std::wstring(found->name) + L"\" (" + std::to_wstring(number) +
+                             L") does not exist yet");
+    }
+    return *found;
+}
+
+Language LanguageOfHost(IDispatch* host) {
+    ComPtr<IVandraX> vandra;
+    short language = 0;
+    if (!host || FAILED(host->QueryInterface(IID_PPV_ARGS(&vandra)))) return Language::English;
+    if (FAILED(vandra->GetLanguageId(&language))) return Language::English;
+    return LanguageFromId(static_cast<std::uint16_t>(language));
+}
+
+}  // namespace qz

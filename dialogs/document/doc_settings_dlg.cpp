@@ -1,0 +1,62 @@
+#include "dialogs/document/doc_settings_dlg.h"
+
+#include "dialogs/document/doc_settings_window.h"
+#include "host/bstr.h"
+#include "host/host_language.h"
+#include "ui/parent_window.h"
+#include "ui/text_edit.h"
+
+namespace qz {
+
+namespace {
+
+/// Null when the host gives none: the tabs then say so.
+ComPtr<IDispatch> DocumentOf(IVandraX* host) {
+    ComPtr<IDispatch> document;
+    if (FAILED(host->GetObjectByPath(Bstr(L"Document").Get(), &document))) return nullptr;
+    return document;
+}
+
+void RunDialog(ComPtr<IVandraX> host, HWND parent) {
+    RegisterTextEdits();
+    const Language language = LanguageOf(host.Get());
+    const SettingsSource source{host, DocumentOf(host.Get())};
+    MakeDialog<DocSettingsWindow>(source, language)->RunModal(parent);
+}
+
+/// Marks the dialog as open.
+class OpenMark {
+  public:
+    explicit OpenMark(bool& open) noexcept : open_(open) { open_ = true; }
+    ~OpenMark() { open_ = false; }
+    OpenMark(const OpenMark&) = delete;
+    OpenMark& operator=(const OpenMark&) = delete;
+
+  private:
+    bool& open_;
+};
+
+}  // namespace
+
+STDMETHODIMP DocSettingsDlg::Initialize(IDispatch* VandraX) {
+    const ComPtr<IUnknown> alive = Identity();
+    return Guard(__uuidof(IqzDocSettingsDlg), [&] {
+        RequirePointer(VandraX);
+        ComPtr<IVandraX> host;
+        ThrowIfFailed(VandraX->QueryInterface(IID_PPV_ARGS(&host)), L"The object is no host");
+        host_ = host;
+    });
+}
+
+STDMETHODIMP DocSettingsDlg::DoModal(VARIANT hWndParent) {
+    const ComPtr<IUnknown> alive = Identity();
+    return Guard(__uuidof(IqzDocSettingsDlg), [&] {
+        const HWND parent = ParentWindow(hWndParent);
+        if (!host_) Throw(E_POINTER, L"The document settings need a host: call Initialize first");
+        if (open_) Throw(E_FAIL, L"The dialog is open already");
+        const OpenMark mark(open_);
+        RunDialog(host_, parent);
+    });
+}
+
+}  // namespace qz

@@ -1,0 +1,92 @@
+#include "dialogs/nup/nup_layout.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <utility>
+
+namespace qz {
+
+namespace {
+
+/// Where one of `count` cells along a side begins and ends.
+struct Span {
+    int begin = 0;
+    int end = 0;
+};
+
+Span SpanOf(int index, int count, int side, int gap) noexcept {
+    const std::int64_t whole = std::int64_t{side} + gap;  // a gap behind each cell, the last one too
+    return {static_cast<int>(whole * index / count), static_cast<int>(whole * (index + 1) / count - gap)};
+}
+
+std::vector<int> Cuts(int count, int side, int gap) {
+    std::vector<int> cuts;
+    for (int index = 0; index + 1 < count; ++index)
+        cuts.push_back(SpanOf(index, count, side, gap).end + gap / 2);
+    return cuts;
+}
+
+bool HasRoom(int count, int side, int gap) noexcept {
+    return count >= 1 && count <= mostNUpRows && side > 0 && gap >= 0 &&
+           std::int64_t{gap} * (count - 1) + count <= side;
+}
+
+/// The cell of a page; pages count from 0 here.
+Rect CellOf(int page, const NUpSheet& sheet, Size lying) noexcept {
+    const int row = sheet.columnsFirst ? page % sheet.rows : page / sheet.columns;
+    const int place = sheet.columnsFirst ? page / sheet.rows : page % sheet.columns;
+    const int column = sheet.rightToLeft ? sheet.columns - 1 - place : place;
+    const Span across = SpanOf(column, sheet.columns, lying.width, sheet.gap);
+    const Span down = SpanOf(row, sheet.rows, lying.height, sheet.gap);
+    return {across.begin, down.begin, across.end, down.end};
+}
+
+Rect Centred(Size size, const Rect& area) noexcept {
+    return Rect::At(
+        {area.left + (area.Width() - size.width) / 2, area.top + (area.Height() - size.height) / 2}, size);
+}
+
+int Part(int whole, std::int64_t numerator, std::int64_t denominator) noexcept {
+    return static_cast<int>(whole * numerator / denominator);
+}
+
+}  // namespace
+
+std::optional<NUpLayout> LayOut(const NUpSheet& sheet) {
+    NUpLayout layout{sheet.paper, {}, {}, {}};
+    if (sheet.landscape) std::swap(layout.sheet.width, layout.sheet.height);
+    if (!HasRoom(sheet.columns, layout.sheet.width, sheet.gap) ||
+        !HasRoom(sheet.rows, layout.sheet.height, sheet.gap)) {
+        return std::nullopt;
+    }
+    for (int page = 0; page < sheet.rows * sheet.columns; ++page) {
+        layout.cells.push_back({CellOf(page, sheet, layout.sheet), page + 1});
+    }
+    layout.cutsDown = Cuts(sheet.columns, layout.sheet.width, sheet.gap);
+    layout.cutsAcross = Cuts(sheet.rows, layout.sheet.height, sheet.gap);
+    return layout;
+}
+
+Rect FitInto(Size size, const Rect& area) noexcept {
+    if (size.width <= 0 || size.height <= 0 || area.Empty()) return {};
+    const bool wide = std::int64_t{size.width} * area.Height() > std::int64_t{size.height} * area.Width();
+    const Size fitted = wide ? Size{area.Width(), Part(area.Width(), size.height, size.width)}
+                             : Size{Part(area.Height(), size.width, size.height), area.Height()};
+    return Centred(fitted, area);
+}
+
+Rect PagePlace(const Rect& cell, Size page, std::optional<int> percent) noexcept {
+    if (!percent) return FitInto(page, cell);
+    return Centred({Part(page.width, *percent, 100), Part(page.height, *percent, 100)}, cell)
+        .Intersected(cell);
+}
+
+Rect Scaled(const Rect& part, Size sheet, const Rect& picture) noexcept {
+    if (sheet.width <= 0 || sheet.height <= 0) return {};
+    return {picture.left + Part(part.left, picture.Width(), sheet.width),
+            picture.top + Part(part.top, picture.Height(), sheet.height),
+            picture.left + Part(part.right, picture.Width(), sheet.width),
+            picture.top + Part(part.bottom, picture.Height(), sheet.height)};
+}
+
+}  // namespace qz

@@ -1,0 +1,217 @@
+// The inspector's members, its tie to the host, and the object that it inspects.
+#include "properties/inspector/prop_control.h"
+
+#include "host/attributes.h"
+#include "host/object_path.h"
+#include "properties/editors/confirmation_pause.h"
+#include "properties/model/confirmation.h"
+#include "properties/model/selection_caption.h"
+#include "res/strings.h"
+#include "res/text_ids.h"
+
+namespace qz {
+
+namespace {
+
+// Bits of the host's change flags.
+constexpr long selectionChanged = 0x2;
+
+bool IsSet(const VARIANT& value) noexcept {
+    if (value.vt == VT_BOOL) return value.boolVal != VARIANT_FALSE;
+    return value.vt == VT_I4 && value.lVal != 0;
+}
+
+ComPtr<IDispatch> CurrentObject(IVandraX* host) {
+    _variant_t current;
+    ThrowIfFailed(host->GetCurrentObject(&current), L"The host does not tell the selected object");
+    return ObjectOf(current);
+}
+
+}  // namespace
+
+PropControl::PropControl()
+    : events_(Identity(), DIID__IqzPropCtrlEvents, [this] { return EventsFrozen(); }) {}
+
+// Members
+// ------------------------------------------------------------------------------------------------------
+
+STDMETHODIMP PropControl::put_VandraX(IDispatch* newVal) {
+    const ComPtr<IUnknown> alive = Identity();
+    const HRESULT left = ResetPane(__uuidof(IqzPropCtrl));
+    if (FAILED(left) || !newVal) return left;
+    return InitializePane(__uuidof(IqzPropCtrl), newVal);
+}
+
+STDMETHODIMP PropControl::get_VandraX(IDispatch** pVal) {
+    return Guard(__uuidof(IqzPropCtrl), [&] {
+        RequirePointer(pVal);
+        *pVal = nullptr;
+        if (Host()) ThrowIfFailed(Host()->QueryInterface(IID_PPV_ARGS(pVal)));
+    });
+}
+
+STDMETHODIMP PropControl::put_Object(IDispatch* newVal) {
+    const ComPtr<IUnknown> alive = Identity();
+    return Guard(__uuidof(IqzPropCtrl), [&] { SetObject(newVal); });
+}
+
+STDMETHODIMP PropControl::get_Object(IDispatch** pVal) {
+    return Guard(__uuidof(IqzPropCtrl), [&] {
+        RequirePointer(pVal);
+        ComPtr<IDispatch>(object_).CopyTo(pVal);
+    });
+}
+
+STDMETHODIMP PropControl::get_SelectionName(BSTR* pVal) {
+    const ComPtr<IUnknown> alive = Identity();
+    return Guard(__uuidof(IqzPropCtrl), [&] {
+        RequirePointer(pVal);
+        *pVal = nullptr;
+        const ComPtr<IVandraX> host = Host();
+        const ComPtr<IDispatch> object = object_;
+        std::optional<long> selected;
+        long count = 0;
+        if (object && host && SUCCEEDED(host->GetSelectionCount(&count))) selected = count;
+        const std::wstring name = object && members_ ? members_->objects.Name(object.Get()) : std::wstring();
+        const std::wstring caption = SelectionCaption(object != nullptr, selected, name);
+        *pVal = SysAllocStringLen(caption.data(), static_cast<UINT>(caption.size()));
+        if (!*pVal) Throw(E_OUTOFMEMORY);
+    });
+}
+
+STDMETHODIMP PropControl::Closing(long* pAnswer) {
+    const ComPtr<IUnknown> alive = Identity();
+    return Guard(__uuidof(IqzPropCtrl), [&] {
+        RequirePointer(pAnswer);
+        CloseEditor();
+        if (!ConfirmationWanted()) return;
+        OpeningChildDialog();
+        const int answer = ShowMessage(LoadText(TextLanguage(), QZ_TEXT_KEEP_CHANGES),
+                                       LoadText(TextLanguage(), QZ_TEXT_KEEP_CHANGES_CAPTION),
+                                       MB_YESNOCANCEL | MB_ICONQUESTION);
+        ClosingChildDialog();
+        if (answer == 0) return;  // it could not be shown: nothing was asked
+        *pAnswer = answer;
+        AnswerClosing(answer);
+    });
+}
+
+bool PropControl::ConfirmationWanted() {
+    const ComPtr<IVandraX> host = Host();
+    if (!host || !object_ || !changes_ || changes_->Empty() || sharedChanges_) return false;
+    ComPtr<IDispatch> found;
+    const bool there = !path_.empty() && SUCCEEDED(host->GetObjectByPath(Bstr(path_).Get(), &found));
+    _variant_t asked;
+    const bool told =
+        SUCCEEDED(host->GetObjectAttribute(Bstr(documentPath).Get(), Bstr(confirmAttribute).Get(), &asked));
+    return MustConfirm(!path_.empty(), there, true, told && IsSet(asked));
+}
+
+void PropControl::AnswerClosing(long answer) {
+    switch (static_cast<ClosingAnswer>(answer)) {
+        case ClosingAnswer::Yes:
+            ThrowIfFailed(ResetPane(__uuidof(IqzPropCtrl)));
+            break;
+        case ClosingAnswer::No: {
+            const std::shared_ptr<AttributeChanges> changes = changes_;
+            const std::shared_ptr<HostMembers> members = members_;
+            if (!changes || !members) return;
+            changes->TakeBack([&](const AttributeChange& change) { TakeBack(*members, change); });
+            break;
+        }
+        default:
+            OnAttributeChosen();  // the editor that was closed before the question
+    }
+}
+
+// The host
+// ------------------------------------------------------------------------------------------------------
+
+void PropControl::ShowDocument() {
+    members_ = std::make_shared<HostMembers>();
+    if (WindowHandle() && dialogLanguage_ != TextLanguage()) MakeDialog();
+}
+
+void PropControl::ForgetDocument() {
+    SetObject(nullptr);
+    members_.reset();
+}
+
+void PropControl::FollowHost() {
+    const ComPtr<IVandraX> host = Host();
+    long flags = 0;
+    ThrowIfFailed(host->GetChangeFlags(&flags), L"The host does not tell what changed");
+    if (flags == 0 || (flags & selectionChanged)) return FollowSelection(host.Get());
+    if (!object_) return;
+    if (!ObjectIsThere()) return SetObject(nullptr);
+    const ValueDlgPointer editor = editor_;
+    if (editor) editor->FollowHost();
+}
+
+void PropControl::FollowSelection(IVandraX* host) {
+    const ComPtr<IDispatch> current = CurrentObject(host);
+    if (!current && !object_) return;
+    if (current && ObjectIsThere() && IsInspected(current.Get())) {
+        OnAttributeChosen();  // others may be selected with it now
+    } else {
+        SetObject(current);
+    }
+}
+
+/// Asks the object itself, as what lies at its old path may be another one by now.
+bool PropControl::ObjectIsThere() {
+    const ComPtr<IDispatch> object = object_;
+    const std::shared_ptr<HostMembers> members = members_;
+    if (!object || !members) return false;
+    std::wstring path;
+    if (FAILED(Guard(IID_NULL, [&] { path = members->objects.Path(object.Get()); }))) return false;
+    if (object == object_) path_ = std::move(path);
+    return object == object_;
+}
+
+bool PropControl::IsInspected(IDispatch* object) {
+    const std::shared_ptr<HostMembers> members = members_;
+    return members && members->objects.Path(object) == path_;
+}
+
+// The object
+// ------------------------------------------------------------------------------------------------------
+
+void PropControl::SetObject(const ComPtr<IDispatch>& object) {
+    const unsigned stage = ++objectStage_;
+    const ComPtr<IDispatch> before = object_;
+    CloseEditor();
+    if (stage != objectStage_) return;  // another object was set meanwhile
+    changes_.reset();
+    object_ = nullptr;
+    path_.clear();
+    HRESULT failure = S_OK;
+    std::wstring reason;
+    try {
+        TakeObject(object);
+    } catch (const ComError& error) {
+        failure = error.code;
+        reason = error.text;
+    }
+    if (stage != objectStage_) return;
+    if (object_ != before) events_.Raise(3);
+    ThrowIfFailed(failure, reason.c_str());
+}
+
+void PropControl::TakeObject(const ComPtr<IDispatch>& object) {
+    const unsigned stage = objectStage_;
+    const std::shared_ptr<HostMembers> members = members_;
+    HRESULT refused = S_OK;
+    std::wstring path;
+    if (object && members) refused = Guard(IID_NULL, [&] { path = members->objects.Path(object.Get()); });
+    if (stage != objectStage_) return;
+    if (SUCCEEDED(refused)) {
+        object_ = object;
+        path_ = std::move(path);
+        changes_ = sharedChanges_ ? sharedChanges_ : std::make_shared<AttributeChanges>();
+    }
+    ShowObject();
+    ThrowIfFailed(refused, L"The object does not tell its path, as an object of the host does");
+}
+
+}  // namespace qz

@@ -1,0 +1,82 @@
+// The inspector's window: its inner dialog, the focus and the keys.
+#include "properties/inspector/prop_control.h"
+
+#include "panes/common/pane_font.h"
+#include "properties/model/selection_caption.h"
+#include "res/strings.h"
+#include "res/text_ids.h"
+#include "ui/keys.h"
+#include "ui/text_edit.h"
+
+namespace qz {
+
+std::wstring PropControl::Title() const { return LoadText(TextLanguage(), QZ_TEXT_PROPERTIES); }
+
+/// What stands behind the inner dialog, and alone when there is nothing to inspect.
+void PropControl::OnDraw(HDC dc, const RECT& bounds) {
+    FillSolid(dc, bounds, BackColorRef());
+    const std::wstring text = SelectionCaption(false, std::nullopt, {});
+    const Font font = MakePaneFont(Ambients());
+    const SavedDc saved(dc);
+    const SelectScope selected(dc, font.Get());
+    SetBkMode(dc, TRANSPARENT);
+    SetTextColor(dc, GetSysColor(COLOR_GRAYTEXT));
+    RECT place = bounds;
+    DrawTextW(dc, text.c_str(), -1, &place, DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX);
+}
+
+void PropControl::OnWindowCreated() {
+    RegisterTextEdits();
+    // Containers that are dialogs find the way to the controls inside.
+    const LONG_PTR style = GetWindowLongPtrW(WindowHandle(), GWL_EXSTYLE);
+    SetWindowLongPtrW(WindowHandle(), GWL_EXSTYLE, style | WS_EX_CONTROLPARENT);
+    MakeDialog();
+}
+
+/// Makes the inner dialog in the host's language, in place of the one before.
+void PropControl::MakeDialog() {
+    CloseEditor();
+    if (dialog_) dialog_->Destroy();
+    dialogLanguage_ = TextLanguage();
+    dialog_ = qz::MakeDialog<InspectorDialog>(static_cast<InspectorDialogListener&>(*this), dialogLanguage_);
+    dialog_->Create(WindowHandle());
+    dialog_->Arrange(ClientSize());
+    ShowObject();
+}
+
+void PropControl::OnSized(SIZE client) {
+    if (!DialogWindow()) return;
+    dialog_->Arrange(client);
+    PlaceEditor();
+}
+
+HWND PropControl::FocusChild() const noexcept {
+    return DialogWindow() && IsWindowVisible(DialogWindow()) ? dialog_->List() : nullptr;
+}
+
+HWND PropControl::TabTarget(bool backwards) const {
+    const HWND dialog = DialogWindow();
+    if (!dialog || !IsWindowVisible(dialog)) return nullptr;
+    const HWND first = GetNextDlgTabItem(dialog, nullptr, FALSE);
+    const HWND focus = GetFocus();
+    if (!focus || !IsChild(dialog, focus)) return backwards ? GetNextDlgTabItem(dialog, first, TRUE) : first;
+    const HWND next = GetNextDlgTabItem(dialog, focus, backwards);
+    const bool leaves = backwards ? focus == first : next == first;
+    return leaves ? nullptr : next;
+}
+
+bool PropControl::IsInputKey(const MSG& message) const {
+    if (!DialogWindow() || !IsChild(DialogWindow(), message.hwnd)) return false;
+    MSG asked = message;
+    const LRESULT code =
+        SendMessageW(message.hwnd, WM_GETDLGCODE, message.wParam, reinterpret_cast<LPARAM>(&asked));
+    if (code & DLGC_WANTMESSAGE) return true;
+    return (code & DLGC_WANTARROWS) && IsNavigationKey(message.wParam);
+}
+
+std::optional<LRESULT> PropControl::OnMessage(UINT message, WPARAM, LPARAM) {
+    if (message == WM_DESTROY) CloseEditor();
+    return std::nullopt;
+}
+
+}  // namespace qz

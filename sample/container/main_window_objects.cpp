@@ -1,0 +1,50 @@
+// The properties dialog, late-bound as a script would use it.
+#include "sample/container/main_window.h"
+
+#include "sample/container/automation.h"
+#include "sample/container/error_text.h"
+
+#include "generated/qzVandraExt.h"
+
+#include <algorithm>
+
+namespace qz {
+
+namespace {
+
+_variant_t HandleVariant(HWND window) { return _variant_t(HandleToLong(window)); }
+
+}  // namespace
+
+/// A new one each time that it is called for on a document: the dialog of before may still be in use.
+void MainWindow::MakePropertiesDialog() {
+    properties_ = nullptr;
+    ComPtr<IDispatch> dialog;
+    RequireSuccess(
+        CoCreateInstance(CLSID_qzPropertiesDlg, nullptr, CLSCTX_INPROC_SERVER, IID_PPV_ARGS(&dialog)),
+        L"The properties dialog cannot be created");
+    PutProperty(dialog.Get(), L"VandraX", _variant_t(host_->Automation()));
+    properties_ = dialog;
+}
+
+void MainWindow::ShowObjectProperties() {
+    MakePropertiesDialog();
+    const ComPtr<IDispatch> dialog = properties_;
+    PutProperty(dialog.Get(), L"AlwaysVisible", 1L);
+    PutProperty(dialog.Get(), L"Object", _variant_t(host_->SelectedOrDocument().Get()));
+    CallMethod(dialog.Get(), L"DoModeless", {HandleVariant(Handle())});
+    CallMethod(dialog.Get(), L"InitObjectList");
+    CallMethod(dialog.Get(), L"AddObject", {L"Document"});
+    for (long page = 1; page <= std::min(host_->PageCount(), 20L); ++page) {
+        CallMethod(dialog.Get(), L"AddObject", {(L"Pages[" + std::to_wstring(page) + L"]").c_str()});
+    }
+}
+
+void MainWindow::ShowDocumentProperties() {
+    MakePropertiesDialog();
+    const ComPtr<IDispatch> dialog = properties_;
+    PutProperty(dialog.Get(), L"Object", _variant_t(host_->Document().Get()));
+    CallMethod(dialog.Get(), L"DoModal", {HandleVariant(Handle())});
+}
+
+}  // namespace qz

@@ -1,0 +1,141 @@
+// The dispatcher of the tool dialogs.
+#include "tests/dialogs/record_dialogs.h"
+#include "tests/support/error_text.h"
+
+namespace qz {
+namespace {
+
+constexpr wchar_t optionsKey[] = L"Software\\qzVandraExt tests";
+constexpr wchar_t optionsValue[] = L"UIDialogsPluginOptions";
+
+class DispatcherTest : public RecordDialogTest {
+  protected:
+    DispatcherTest() : host(MakeHost(2)) {}
+    ~DispatcherTest() override { DeleteTree(HKEY_CURRENT_USER, optionsKey); }
+
+    static void Cancel() { Press(IDCANCEL); }
+    static std::optional<RegistryValue> Options() {
+        const auto key = RegistryKey::Open(HKEY_CURRENT_USER, optionsKey);
+        return key ? key->Value(optionsValue) : std::nullopt;
+    }
+    /// What is left of a value after a dispatcher lived and ran a dialog.
+    std::optional<RegistryValue> OptionsAfterUse(const RegistryValue& before) {
+        RegistryKey::Create(HKEY_CURRENT_USER, optionsKey).SetValue(optionsValue, before);
+        EXPECT_EQ(host->put_SettingsKeyPath(_bstr_t(optionsKey)), S_OK);
+        dialogs = Make();
+        EXPECT_EQ(dialogs->put_PDF(host.Get()), S_OK);
+        EXPECT_EQ(Run(qzNUpSettings, nullptr, nullptr, Cancel), S_FALSE);
+        dialogs.Reset();
+        return Options();
+    }
+
+    ComPtr<IReferenceHost> host;
+};
+
+TEST_F(DispatcherTest, NumbersWithoutDialogAreNotImplementedAndSaySo) {
+    for (const long number : {0L, 13L, -1L, 2147483647L}) {
+        const auto command = static_cast<qzPluginUIDialogsCommands>(number);
+        EXPECT_EQ(dialogs->DoDialog(command), E_NOTIMPL);
+        EXPECT_NE(TakeErrorText().find(std::to_wstring(number)), std::wstring::npos);
+    }
+    EXPECT_EQ(dialogs->DoDialog(qzAddWatermarks), E_NOTIMPL);
+    EXPECT_NE(TakeErrorText().find(L"watermarks"), std::wstring::npos);
+    long window = 7;
+    VARIANT out = _variant_t(5L).Detach();
+    EXPECT_EQ(dialogs->ShowWindow(qzPrintPreview, &window, nullptr, &out), E_NOTIMPL);
+    EXPECT_EQ(dialogs->EndWindow(qzPrintPreview, &window, &out), E_NOTIMPL);
+    EXPECT_EQ(window, 7);
+    EXPECT_EQ(out.lVal, 5);
+}
+
+TEST_F(DispatcherTest, PasswordIsACopyAndMayBeNone) {
+    BSTR password = reinterpret_cast<BSTR>(1);
+    EXPECT_EQ(dialogs->get_Password(&password), S_OK);
+    EXPECT_EQ(password, nullptr);
+    const _bstr_t text(SysAllocStringLen(L"a\0b", 3), false);
+    EXPECT_EQ(dialogs->put_Password(text), S_OK);
+    ASSERT_EQ(dialogs->get_Password(&password), S_OK);
+    EXPECT_EQ(std::wstring(password, SysStringLen(password)), std::wstring(L"a\0b", 3));
+    SysFreeString(password);
+    EXPECT_EQ(dialogs->put_Password(nullptr), S_OK);
+    EXPECT_EQ(dialogs->get_Password(&password), S_OK);
+    EXPECT_EQ(password, nullptr);
+    EXPECT_EQ(dialogs->get_Password(nullptr), E_POINTER);
+}
+
+TEST_F(DispatcherTest, KeepsHostAndTwoPanesUntilOthersCome) {
+    const ULONG before = ReferencesOf(host.Get());
+    for (const auto put : {&IqzPluginUIDialogs::put_PDF, &IqzPluginUIDialogs::put_BookmarkCtrl,
+                           &IqzPluginUIDialogs::put_ThumbnailsCtrl}) {
+        EXPECT_EQ((dialogs.Get()->*put)(host.Get()), S_OK);
+        EXPECT_EQ((dialogs.Get()->*put)(host.Get()), S_OK);
+        EXPECT_EQ(ReferencesOf(host.Get()), before + 1);
+        EXPECT_EQ((dialogs.Get()->*put)(nullptr), S_OK);
+        EXPECT_EQ(ReferencesOf(host.Get()), before);
+    }
+    EXPECT_EQ(dialogs->put_LayersCtrl(host.Get()), S_OK);
+    EXPECT_EQ(dialogs->put_StatusCtrl(host.Get()), S_OK);
+    EXPECT_EQ(ReferencesOf(host.Get()), before);
+    EXPECT_EQ(dialogs->put_PDF(host.Get()), S_OK);
+    dialogs.Reset();
+    EXPECT_EQ(ReferencesOf(host.Get()), before) << "let go with the object";
+}
+
+TEST_F(DispatcherTest, ParentIsDisabledWhileADialogIsOpenAndMustExist) {
+    const HWND parent = CreateWindowExW(0, L"STATIC", L"", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 300, 200,
+                                        nullptr, nullptr, nullptr, nullptr);
+    EXPECT_EQ(dialogs->put_ParentWindowHandle(HandleToLong(parent)), S_OK);
+    bool disabled = false;
+    EXPECT_EQ(Run(qzNUpSettings, nullptr, nullptr,
+                  [&] {
+                      disabled = !IsWindowEnabled(parent) && GetWindow(Window(), GW_OWNER) == parent;
+                      Cancel();
+                  }),
+              S_FALSE);
+    EXPECT_TRUE(disabled);
+    EXPECT_TRUE(IsWindowEnabled(parent));
+    DestroyWindow(parent);
+    EXPECT_EQ(dialogs->DoDialog(qzNUpSettings), E_INVALIDARG);
+    EXPECT_FALSE(TakeErrorText().empty());
+}
+
+TEST_F(DispatcherTest, OptionsAreOneByteThatIsWrittenBack) {
+    const RegistryValue byte{REG_BINARY, {0x5A}};
+    EXPECT_EQ(OptionsAfterUse(byte), byte);
+    const RegistryValue none{REG_BINARY, {0}};
+    EXPECT_EQ(OptionsAfterUse({REG_BINARY, {1, 2}}), none);
+    EXPECT_EQ(OptionsAfterUse({REG_DWORD, {1, 0, 0, 0}}), none);
+}
+
+TEST_F(DispatcherTest, OptionsAreLeftAloneWithoutAKeyOfTheHost) {
+    EXPECT_EQ(dialogs->put_PDF(host.Get()), S_OK);
+    EXPECT_EQ(Run(qzNUpSettings, nullptr, nullptr, Cancel), S_FALSE);
+    dialogs.Reset();
+    EXPECT_EQ(Options(), std::nullopt);
+}
+
+TEST_F(DispatcherTest, DialogsAreInTheLanguageOfTheHost) {
+    EXPECT_EQ(host->put_LanguageId(0x0407), S_OK);
+    EXPECT_EQ(dialogs->put_PDF(host.Get()), S_OK);
+    wchar_t caption[100] = L"";
+    Run(qzNUpSettings, nullptr, nullptr, [&] {
+        GetWindowTextW(Window(), caption, 100);
+        Cancel();
+    });
+    EXPECT_STREQ(caption, L"Mehrfachseiten-Einstellungen");
+}
+
+TEST_F(DispatcherTest, DialogsOfRecordsOpenThoughTheHostFails) {
+    EXPECT_EQ(host->put_SettingsKeyPath(_bstr_t(optionsKey)), S_OK);
+    for (const wchar_t* operation : {L"GetLanguageId", L"SettingsKeyPath"}) {
+        dialogs = Make();
+        EXPECT_EQ(dialogs->put_PDF(host.Get()), S_OK);
+        EXPECT_EQ(host->FailOperation(_bstr_t(operation), E_ACCESSDENIED), S_OK);
+        EXPECT_EQ(Run(qzNUpSettings, nullptr, nullptr, Cancel), S_FALSE) << operation;
+        EXPECT_EQ(Run(qzExportToDOCX, nullptr, nullptr, Cancel), S_FALSE) << operation;
+        EXPECT_EQ(host->ClearFaults(), S_OK);
+    }
+}
+
+}  // namespace
+}  // namespace qz

@@ -1,0 +1,84 @@
+// The dialog of the editing grid, driven through its controls.
+#include "com/object.h"
+#include "res/dialog_ids.h"
+#include "tests/module/loaded_module.h"
+#include "tests/support/during_modal.h"
+
+#include "generated/qzVandraExt.h"
+
+#include <windows.h>
+#include <commctrl.h>
+#include <comdef.h>
+#include <gtest/gtest.h>
+
+#include <functional>
+
+namespace qz {
+namespace {
+
+class GridDialogTest : public ::testing::Test {
+  protected:
+    GridDialogTest() {
+        ComPtr<IClassFactory> factory;
+        ThrowIfFailed(module.GetClassObject(CLSID_qzGridUnitsDlg, IID_PPV_ARGS(&factory)));
+        ThrowIfFailed(factory->CreateInstance(nullptr, IID_PPV_ARGS(&grid)));
+    }
+    ~GridDialogTest() override {
+        grid.Reset();
+        EXPECT_EQ(module.CanUnloadNow(), S_OK);
+    }
+
+    static HWND Window() {
+        HWND found = nullptr;
+        while ((found = FindWindowExW(nullptr, found, L"#32770", nullptr)) &&
+               !GetDlgItem(found, QZ_GRID_STEPS)) {
+        }
+        return found;
+    }
+    static void Press(int id) { SendDlgItemMessageW(Window(), id, BM_CLICK, 0, 0); }
+    /// Enters a step and a unit (a place in the list), presses a button, and gives the step that is kept.
+    long Enter(const wchar_t* text, int unit, int button) const {
+        const DuringModal during([&] {
+            SetDlgItemTextW(Window(), QZ_GRID_STEPS, text);
+            SendDlgItemMessageW(Window(), QZ_GRID_UNIT, CB_SETCURSEL, static_cast<WPARAM>(unit), 0);
+            Press(button);
+        });
+        EXPECT_EQ(grid->DoModal(), S_OK);
+        long steps = -1;
+        EXPECT_EQ(grid->get_GridSteps(&steps), S_OK);
+        return steps;
+    }
+
+    LoadedModule module;
+    ComPtr<IqzGridUnitsDlg> grid;
+};
+
+TEST_F(GridDialogTest, OpensInTwipsWhateverWasChosenBefore) {
+    ASSERT_EQ(grid->put_GridSteps(1440), S_OK);
+    wchar_t shown[100] = L"", unit[100] = L"";
+    int low = -1, high = -1;
+    const DuringModal during([&] {
+        GetDlgItemTextW(Window(), QZ_GRID_STEPS, shown, 100);
+        GetDlgItemTextW(Window(), QZ_GRID_UNIT, unit, 100);
+        SendDlgItemMessageW(Window(), QZ_GRID_SPIN, UDM_GETRANGE32, reinterpret_cast<WPARAM>(&low),
+                            reinterpret_cast<LPARAM>(&high));
+        Press(IDCANCEL);
+    });
+    EXPECT_EQ(grid->DoModal(), S_OK);
+    EXPECT_STREQ(shown, L"1440");
+    EXPECT_STREQ(unit, L"Twips");
+    EXPECT_EQ(low, 0);
+    EXPECT_EQ(high, 32767);
+}
+
+TEST_F(GridDialogTest, KeepsWhatIsEnteredInTwips) {
+    constexpr int millimeters = 0, inches = 1, twips = 2;
+    EXPECT_EQ(Enter(L"10", millimeters, IDOK), 566);
+    EXPECT_EQ(Enter(L"3", inches, IDOK), 4320);
+    EXPECT_EQ(Enter(L"99", twips, IDCANCEL), 4320);
+    EXPECT_EQ(Enter(L"", twips, IDOK), 0);
+    EXPECT_EQ(grid->get_GridSteps(nullptr), E_POINTER);
+}
+
+}  // namespace
+}  // namespace qz

@@ -1,0 +1,319 @@
+// The editor of action chains: buttons and keys, the confirmation held off meanwhile, undo, failures.
+#include "tests/properties/inspector_fixture.h"
+#include "tests/properties/object_chain.h"
+#include "tests/support/during_modal.h"
+
+namespace qz {
+namespace {
+
+class ActionsEditor : public InspectorTest {
+  protected:
+    ActionsEditor() {
+        SetValue(L"Objects[B]", L"Description", L"Second");
+        SetValue(L"Objects[F]", L"NextActions", ObjectArray(actions));
+        SetValue(L"Document", L"AlwaysConfirmAttributeChanges", true);
+        Open();
+        Reopen();
+    }
+
+    void Reopen() {
+        Inspect(field);
+        ASSERT_TRUE(Choose(L"NextActions"));
+    }
+    HWND List() const { return Field(QZ_EDITOR_ACTIONS); }
+    std::wstring Chain(const wchar_t* path = L"Objects[F]") const {
+        return NamesIn(Value(path, L"NextActions"));
+    }
+    /// What the list shows, the entry selected in brackets.
+    std::wstring Shown() const {
+        std::wstring shown;
+        const LRESULT selected = SendMessageW(List(), LB_GETCURSEL, 0, 0);
+        for (LRESULT i = 0; i < SendMessageW(List(), LB_GETCOUNT, 0, 0); ++i) {
+            wchar_t text[100] = L"";
+            SendMessageW(List(), LB_GETTEXT, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(text));
+            shown += (i == selected ? L"[" : L"") + std::wstring(text) + (i == selected ? L"] " : L" ");
+        }
+        return shown;
+    }
+    void ChooseAction(int entry) const {
+        SendMessageW(List(), LB_SETCURSEL, static_cast<WPARAM>(entry), 0);
+        SendMessageW(Editor(), WM_COMMAND, MAKEWPARAM(QZ_EDITOR_ACTIONS, LBN_SELCHANGE),
+                     reinterpret_cast<LPARAM>(List()));
+    }
+    /// The buttons that can be pressed, by their numbers.
+    std::wstring Enabled() const {
+        std::wstring enabled;
+        for (int id = QZ_EDITOR_ADD_ACTION; id <= QZ_EDITOR_MOVE_ACTION_DOWN; ++id) {
+            if (IsWindowEnabled(Field(id))) enabled += std::to_wstring(id - QZ_EDITOR_ADD_ACTION);
+        }
+        return enabled;
+    }
+    void PressControl(WPARAM key) const {
+        BYTE before[256], keys[256] = {};
+        GetKeyboardState(before);
+        keys[VK_CONTROL] = 0x80;
+        SetKeyboardState(keys);
+        Press(List(), key);
+        SetKeyboardState(before);
+    }
+    bool Confirms() const { return static_cast<bool>(Value(L"Document", L"AlwaysConfirmAttributeChanges")); }
+
+    /// Opens the menu of new actions and chooses an entry, none with -1.
+    void ChooseNew(int entry, const std::function<void()>& open) {
+        menu_ = {};
+        entry_ = entry;
+        const UINT_PTR timer = SetTimer(nullptr, 0, 30, &OnMenuTimer);
+        open();
+        KillTimer(nullptr, timer);
+    }
+    static void CALLBACK OnMenuTimer(HWND, UINT, UINT_PTR timer, DWORD) {
+        const HWND window = FindWindowW(L"#32768", nullptr);
+        if (!window || !IsWindowVisible(window)) return;
+        KillTimer(nullptr, timer);
+        const HMENU menu = reinterpret_cast<HMENU>(SendMessageW(window, 0x01E1 /* MN_GETHMENU */, 0, 0));
+        GetWindowRect(window, &menuPlace_);
+        for (int i = 0; i < GetMenuItemCount(menu); ++i) {
+            wchar_t text[64] = L"";
+            GetMenuStringW(menu, static_cast<UINT>(i), text, 64, MF_BYPOSITION);
+            menu_ += std::wstring(text) + L" ";
+        }
+        for (int i = 0; i <= entry_; ++i) PostMessageW(window, WM_KEYDOWN, VK_DOWN, 0);
+        PostMessageW(window, WM_KEYDOWN, entry_ >= 0 ? VK_RETURN : VK_ESCAPE, 0);
+    }
+
+    const ComPtr<IDispatch> actions[3] = {Create(52, L"A"), Create(46, L"B"), Create(50, L"C")};
+    const ComPtr<IDispatch> field = Create(typeField, L"F"), other = Create(typeField, L"G");
+    static inline std::wstring menu_;
+    static inline RECT menuPlace_{};
+    static inline int entry_ = -1;
+};
+
+TEST_F(ActionsEditor, ChangesTheChainByButtonsAndKeys) {
+    EXPECT_EQ(Shown(), L"[A] Second C ");
+    EXPECT_EQ(TextOf(Field(QZ_EDITOR_TEXT)), L"A (qzObjectTypeActionJavaScript)");
+    EXPECT_EQ(Enabled(), L"0124");
+    ChooseAction(1);
+    EXPECT_EQ(TextOf(Field(QZ_EDITOR_TEXT)), L"B (qzObjectTypeActionGoTo)");
+    Click(Field(QZ_EDITOR_MOVE_ACTION_DOWN));
+    EXPECT_EQ(Chain(), L"A C B ");
+    EXPECT_EQ(Shown(), L"A C [Second] ");
+    EXPECT_EQ(Enabled(), L"0123");
+    PressControl(VK_UP);
+    PressControl(VK_UP);
+    PressControl(VK_UP);
+    EXPECT_EQ(Chain(), L"B A C ");
+    {
+        const MessageBoxAnswer no(IDNO);
+        Press(List(), VK_DELETE);
+        EXPECT_EQ(no.Text(), L"Are you sure you want to remove the selected action?");
+    }
+    EXPECT_EQ(Chain(), L"B A C ");
+    for (int i = 0; i < 3; ++i) {
+        events->TakeEvents();
+        const MessageBoxAnswer yes(IDYES);
+        Click(Field(QZ_EDITOR_REMOVE_ACTION));
+        EXPECT_TRUE(yes.Shown());
+        EXPECT_EQ(events->TakeEvents(), (Events{"1", "2"}));
+    }
+    EXPECT_EQ(Chain(), L"");
+    EXPECT_EQ(Enabled(), L"0");
+    EXPECT_EQ(TextOf(Field(QZ_EDITOR_TEXT)), L"");
+    const MessageBoxAnswer no(IDNO);
+    long answer = 0;
+    EXPECT_EQ(pane->Closing(&answer), S_OK);
+    EXPECT_EQ(Chain(), L"A B C ") << "all taken back";
+}
+
+TEST_F(ActionsEditor, AddsWhatTheMenuOffers) {
+    const HWND add = Field(QZ_EDITOR_ADD_ACTION);
+    ChooseNew(-1, [&] { Click(add); });
+    EXPECT_EQ(menu_,
+              L"qzObjectTypeActionForm qzObjectTypeActionGoTo qzObjectTypeActionHide "
+              L"qzObjectTypeActionJavaScript ");
+    RECT button{};
+    GetWindowRect(add, &button);
+    EXPECT_EQ(menuPlace_.left, button.left);
+    EXPECT_EQ(menuPlace_.top, button.bottom + 2);
+    EXPECT_EQ(Chain(), L"A B C ");
+    ChooseNew(0, [&] { Click(add); });
+    ChooseNew(1, [&] { Press(List(), VK_INSERT); });
+    ChooseNew(2, [&] { Press(List(), VK_F4); });
+    ChooseNew(3, [&] { Click(add); });
+    EXPECT_EQ(Chain(), L"A B C myNewFormAction myNewGotoAction myNewHideAction myNewJSAction ");
+    EXPECT_EQ(TextOf(Field(QZ_EDITOR_TEXT)), L"myNewJSAction (qzObjectTypeActionJavaScript)");
+    Press(List(), VK_ESCAPE);
+    EXPECT_EQ(Chain(), L"A B C ");
+    host->FailOperation(_bstr_t(L"CreateObject"), E_ACCESSDENIED);
+    const MessageBoxAnswer ok(IDOK);
+    ChooseNew(0, [&] { Click(add); });
+    EXPECT_TRUE(ok.Shown());
+    EXPECT_EQ(Shown(), L"[A] Second C ");
+}
+
+TEST_F(ActionsEditor, EditsAnActionInADialogOfItsOwn) {
+    ChooseAction(1);
+    events->TakeEvents();
+    bool confirmed = true;
+    const auto edit = [&](const wchar_t* text) {
+        const DuringModal during([&, text] {
+            HWND dialog = nullptr;
+            while ((dialog = FindWindowExW(nullptr, dialog, WC_DIALOG, nullptr)) &&
+                   !GetDlgItem(dialog, QZ_PROPERTIES_PIN)) {
+            }
+            EXPECT_EQ(TextOf(dialog), L"Properties for: B");
+            const HWND control = FindWindowExW(dialog, nullptr, L"qzVandraExt.Window", nullptr);
+            const HWND inner = FindWindowExW(control, nullptr, WC_DIALOG, nullptr);
+            const HWND list = GetDlgItem(inner, QZ_INSPECTOR_LIST);
+            confirmed = Confirms();
+            SendMessageW(list, LB_SELECTSTRING, static_cast<WPARAM>(-1),
+                         reinterpret_cast<LPARAM>(L"Description"));
+            SendMessageW(inner, WM_COMMAND, MAKEWPARAM(QZ_INSPECTOR_LIST, LBN_SELCHANGE),
+                         reinterpret_cast<LPARAM>(list));
+            const HWND editor = FindWindowExW(inner, nullptr, WC_DIALOG, nullptr);
+            Type(GetDlgItem(editor, QZ_EDITOR_TEXT), text);
+            SendMessageW(dialog, WM_COMMAND, IDOK, 0);
+        });
+        Click(Field(QZ_EDITOR_EDIT_ACTION));
+    };
+    edit(L"Changed");
+    EXPECT_FALSE(confirmed);
+    EXPECT_EQ(Shown(), L"A [Changed] C ");
+    EXPECT_EQ(events->TakeEvents(), (Events{"1", "2"}));
+    EXPECT_FALSE(Confirms()) << "the editor is open still";
+    Inspect(field);
+    EXPECT_EQ(ChosenName(), L"NextActions") << "what the dialog chose is forgotten";
+    ChooseAction(1);
+    edit(L"Again");
+    const MessageBoxAnswer no(IDNO);
+    long answer = 0;
+    EXPECT_EQ(pane->Closing(&answer), S_OK);
+    EXPECT_TRUE(no.Shown());
+    EXPECT_EQ(Value(L"Objects[B]", L"Description"), _variant_t(L"Changed")) << "taken back with the rest";
+}
+
+TEST_F(ActionsEditor, ConfirmationIsHeldOffAsLongAsAnyIsOpen) {
+    EXPECT_FALSE(Confirms());
+    ComPtr<IClassFactory> factory;
+    ComPtr<IqzPropCtrl> second;
+    ASSERT_EQ(module.GetClassObject(CLSID_qzPropCtrl, IID_PPV_ARGS(&factory)), S_OK);
+    ASSERT_EQ(factory->CreateInstance(nullptr, IID_PPV_ARGS(&second)), S_OK);
+    {
+        const PaneWindow another(second.Get(), {320, 480});
+        ASSERT_EQ(second->put_VandraX(host.Get()), S_OK);
+        ASSERT_EQ(second->put_Object(field.Get()), S_OK);
+        Choose(L"Name");
+        EXPECT_FALSE(Confirms()) << "the other inspector shows the chain, too";
+    }
+    second->put_VandraX(nullptr);
+    EXPECT_TRUE(Confirms());
+    Reopen();
+    EXPECT_FALSE(Confirms());
+    DestroyWindow(Editor());
+    EXPECT_TRUE(Confirms());
+    Reopen();
+    ASSERT_EQ(host->RemoveObject(_bstr_t(L"Objects[F]")), S_OK);
+    EXPECT_EQ(Editor(), nullptr);
+    EXPECT_TRUE(Confirms());
+    SetValue(L"Document", L"AlwaysConfirmAttributeChanges", false);
+    Inspect(other);
+    ASSERT_TRUE(Choose(L"NextActions"));
+    Choose(L"Name");
+    EXPECT_FALSE(Confirms());
+}
+
+TEST_F(ActionsEditor, SeveralObjectsReadOnlyOnesAndRefusals) {
+    SetValue(L"Objects[G]", L"NextActions", ObjectArray(actions));
+    Select(L"Objects[G]");
+    Select(L"Objects[F]", true);
+    Reopen();
+    EXPECT_EQ(Shown(), L"[A] Second C ") << "the same chain in both";
+    Click(Field(QZ_EDITOR_MOVE_ACTION_DOWN));
+    EXPECT_EQ(Chain(), L"B A C ");
+    EXPECT_EQ(Chain(L"Objects[G]"), L"B A C ");
+    SetValue(L"Objects[G]", L"NextActions", ObjectArray(std::span(actions).first(1)));
+    Reopen();
+    EXPECT_EQ(Shown(), L"");
+    EXPECT_EQ(ValueCaption(), L"Value (several)");
+    Select(L"Objects[F]");
+    Reopen();
+    host->FailOperation(_bstr_t(L"Attribute.Value"), E_ACCESSDENIED);
+    {
+        const MessageBoxAnswer ok(IDOK);
+        Click(Field(QZ_EDITOR_MOVE_ACTION_DOWN));
+        EXPECT_TRUE(ok.Shown());
+    }
+    EXPECT_EQ(Shown(), L"A [Second] C ") << "what the user did stays";
+    host->ClearFaults();
+    EXPECT_EQ(Chain(), L"B A C ");
+    Add(L"Objects[F]", L"Fixed", L'N', 2, 8201, ObjectArray(actions));
+    Inspect(field);
+    ASSERT_TRUE(Choose(L"Fixed"));
+    EXPECT_EQ(Shown(), L"[A] Second C ");
+    EXPECT_EQ(Enabled(), L"");
+    EXPECT_FALSE(IsWindowEnabled(List()));
+    EXPECT_EQ(IsWindowEnabled(Field(QZ_EDITOR_ACTION_RESERVED)) ||
+                  IsWindowVisible(Field(QZ_EDITOR_ACTION_RESERVED)),
+              FALSE);
+}
+
+TEST_F(ActionsEditor, AnyTypeOfValueOpens) {
+    ASSERT_EQ(host->RemoveObject(_bstr_t(L"Objects[A]")), S_OK);
+    _variant_t numbers(L""), mixed, error;
+    numbers.Clear();
+    numbers.vt = VT_ARRAY | VT_I4;
+    numbers.parray = SafeArrayCreateVector(VT_I4, 0, 3);
+    mixed.vt = VT_ARRAY | VT_VARIANT;
+    mixed.parray = SafeArrayCreateVector(VT_VARIANT, 0, 2);
+    _variant_t element(actions[1].Get());
+    LONG index = 1;
+    ASSERT_EQ(SafeArrayPutElement(mixed.parray, &index, &element), S_OK);
+    error.vt = VT_ERROR;
+    const struct {
+        _variant_t value;
+        const wchar_t* shown;
+    } cases[] = {{numbers, L""},
+                 {mixed, L"[Second] "},
+                 {error, L""},
+                 {_variant_t(), L""},
+                 {_variant_t(7L), L""},
+                 {_variant_t(L"text"), L""},
+                 {_variant_t(actions[1].Get()), L""},
+                 {ObjectArray(actions), L"[<no-name>] Second C "}};
+    for (const auto& [value, shown] : cases) {
+        Override(L"Objects[F]", L"NextActions", value);
+        Reopen();
+        EXPECT_EQ(Shown(), shown) << value.vt;
+        host->ClearOverrides();
+    }
+    // An action that is gone can be taken out.
+    const MessageBoxAnswer yes(IDYES);
+    Click(Field(QZ_EDITOR_REMOVE_ACTION));
+    EXPECT_EQ(Chain(), L"B C ");
+}
+
+TEST_F(ActionsEditor, TheHostFailsAtAnyOneCall) {
+    long call = 1;
+    for (bool failed = true; failed; ++call) {
+        ASSERT_LT(call, 600);
+        pane->put_Object(nullptr);
+        SetValue(L"Objects[F]", L"NextActions", ObjectArray(actions));
+        const MessageBoxAnswer ok(IDOK);
+        const long before = CallCount(host.Get(), L"");
+        host->FailCall(call, E_FAIL);
+        pane->put_Object(field.Get());
+        if (Choose(L"NextActions") && Editor()) {
+            ChooseAction(1);
+            Click(Field(QZ_EDITOR_MOVE_ACTION_UP));
+        }
+        Choose(L"Name");
+        failed = CallCount(host.Get(), L"") - before >= call;
+        host->ClearFaults();
+        EXPECT_TRUE(Confirms()) << "call " << call;
+        const std::wstring chain = Chain();
+        EXPECT_TRUE(chain == L"A B C " || chain == L"B A C ") << chain;
+    }
+    EXPECT_GT(call, 60);
+}
+
+}  // namespace
+}  // namespace qz

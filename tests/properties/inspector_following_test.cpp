@@ -1,0 +1,190 @@
+// The inspector and its host: what is selected, what vanishes, what a host without offers.
+#include "tests/properties/inspector_fixture.h"
+
+namespace qz {
+namespace {
+
+class InspectorFollows : public InspectorTest {
+  protected:
+    std::wstring SelectionName() const {
+        BSTR name = nullptr;
+        EXPECT_EQ(pane->get_SelectionName(&name), S_OK);
+        const std::wstring text(name, SysStringLen(name));
+        SysFreeString(name);
+        return text;
+    }
+    std::wstring InspectedPath() const {
+        ComPtr<IDispatch> object;
+        EXPECT_EQ(pane->get_Object(&object), S_OK);
+        if (!object) return L"";
+        DISPID id = 0;
+        wchar_t name[] = L"Path";
+        LPOLESTR names = name;
+        EXPECT_EQ(object->GetIDsOfNames(IID_NULL, &names, 1, 0, &id), S_OK);
+        _variant_t path;
+        DISPPARAMS none{};
+        EXPECT_EQ(object->Invoke(id, IID_NULL, 0, DISPATCH_PROPERTYGET, &none, &path, nullptr, nullptr),
+                  S_OK);
+        return std::wstring(_bstr_t(path));
+    }
+};
+
+TEST_F(InspectorFollows, ShowsWhatIsSelected) {
+    Create(typeField, L"F");
+    Create(typeCheckBox, L"C");
+    Open();
+    EXPECT_EQ(SelectionName(), L"<no-object>");
+    events->TakeEvents();
+    Select(L"Objects[F]");
+    EXPECT_EQ(InspectedPath(), L"Objects[F]");
+    EXPECT_EQ(SelectionName(), L"F");
+    EXPECT_EQ(events->TakeEvents(), Events{"3"});
+    Select(L"Objects[C]", true);
+    EXPECT_EQ(InspectedPath(), L"Objects[C]");
+    EXPECT_EQ(SelectionName(), L"<multiple-selection>");
+    ASSERT_TRUE(Choose(L"Checked"));
+    ASSERT_EQ(host->RemoveObject(_bstr_t(L"Objects[C]")), S_OK);
+    EXPECT_EQ(InspectedPath(), L"Objects[F]") << "what is left selected";
+    ASSERT_EQ(host->RemoveObject(_bstr_t(L"Objects[F]")), S_OK);
+    EXPECT_EQ(SelectionName(), L"<no-object>");
+    EXPECT_EQ(Editor(), nullptr);
+    EXPECT_FALSE(IsWindowVisible(Inner()));
+}
+
+TEST_F(InspectorFollows, ObjectsThatAreNotSelectedStayUntilTheyVanish) {
+    const auto field = Create(typeField, L"F");
+    Create(typeField, L"Other");
+    Open();
+    Inspect(field);
+    ASSERT_TRUE(Choose(L"Locked"));
+    SetValue(L"Objects[F]", L"Locked", _variant_t(true));
+    EXPECT_EQ(SendMessageW(Field(QZ_EDITOR_CHECK), BM_GETCHECK, 0, 0), BST_CHECKED) << "written by others";
+    ASSERT_EQ(host->RemoveObject(_bstr_t(L"Objects[Other]")), S_OK);
+    EXPECT_EQ(InspectedPath(), L"Objects[F]");
+    ASSERT_EQ(host->RemoveObject(_bstr_t(L"Objects[F]")), S_OK);
+    EXPECT_EQ(InspectedPath(), L"");
+}
+
+TEST_F(InspectorFollows, SeveralObjectsAreWrittenTogether) {
+    Create(typeField, L"F");
+    Create(typeField, L"G");
+    const auto apart = Create(typeField, L"Apart");
+    SetValue(L"Document", L"AlwaysConfirmAttributeChanges", 1L);
+    SetValue(L"Objects[G]", L"Locked", _variant_t(true));
+    Open();
+    Select(L"Objects[F]");
+    Select(L"Objects[G]", true);
+    ASSERT_TRUE(Choose(L"Visible"));
+    EXPECT_EQ(ValueCaption(), L"Value");
+    ASSERT_TRUE(Choose(L"Locked"));
+    EXPECT_EQ(ValueCaption(), L"Value (several)");
+    EXPECT_EQ(SendMessageW(Field(QZ_EDITOR_CHECK), BM_GETCHECK, 0, 0), BST_INDETERMINATE);
+    Click(Field(QZ_EDITOR_CHECK));
+    Click(Field(QZ_EDITOR_CHECK));
+    EXPECT_TRUE(static_cast<bool>(Value(L"Objects[F]", L"Locked")));
+    EXPECT_TRUE(static_cast<bool>(Value(L"Objects[G]", L"Locked")));
+    {
+        const MessageBoxAnswer no(IDNO);
+        long answer = 0;
+        EXPECT_EQ(pane->Closing(&answer), S_OK);
+        EXPECT_EQ(answer, IDNO);
+        EXPECT_EQ(no.Text(), L"Attribute changes were made. Do you want to keep the changes?");
+        EXPECT_EQ(no.Caption(), L"Attribute Changes Confirmation...");
+    }
+    EXPECT_FALSE(static_cast<bool>(Value(L"Objects[F]", L"Locked")));
+    EXPECT_TRUE(static_cast<bool>(Value(L"Objects[G]", L"Locked")));
+    // Inspected without being selected: written alone.
+    Inspect(apart);
+    ASSERT_TRUE(Choose(L"Locked"));
+    Click(Field(QZ_EDITOR_CHECK));
+    EXPECT_TRUE(static_cast<bool>(Value(L"Objects[Apart]", L"Locked")));
+    EXPECT_FALSE(static_cast<bool>(Value(L"Objects[F]", L"Locked")));
+}
+
+TEST_F(InspectorFollows, WriteBackCallsTheHostInOrder) {
+    Create(typeField, L"F");
+    Open();
+    Select(L"Objects[F]");
+    ASSERT_TRUE(Choose(L"Locked"));
+    host->put_LogEnabled(1);
+    host->ClearLog();
+    Click(Field(QZ_EDITOR_CHECK));
+    host->put_LogEnabled(0);
+    Texts writes;
+    for (const std::wstring& line : LogLines(host.Get())) {
+        const std::wstring name = line.substr(0, line.find(L' '));
+        if (name != L"GetChangeFlags" && name != L"Attribute.Reading" && name != L"Object.Path")
+            writes.push_back(line);
+    }
+    EXPECT_EQ(writes,
+              (Texts{L"Attribute.Value", L"GetSelectionCount", L"Object.Redraw", L"Object.Redraw 1",
+                     L"Attribute.Value True", L"Object.Redraw 0", L"UpdateView 1024, 1", L"Object.Refresh"}));
+}
+
+TEST_F(InspectorFollows, ChangesStayUnlessTheDocumentWantsTheQuestion) {
+    Create(typeField, L"F");
+    Open();
+    Select(L"Objects[F]");
+    ASSERT_TRUE(Choose(L"Locked"));
+    Click(Field(QZ_EDITOR_CHECK));
+    long answer = 99;
+    EXPECT_EQ(pane->Closing(&answer), S_OK);
+    EXPECT_EQ(answer, 99);
+    EXPECT_EQ(pane->Closing(nullptr), E_POINTER);
+    SetValue(L"Document", L"AlwaysConfirmAttributeChanges", 1L);
+    {
+        const MessageBoxAnswer cancel(IDCANCEL);
+        EXPECT_EQ(pane->Closing(&answer), S_OK);
+        EXPECT_EQ(answer, IDCANCEL);
+        EXPECT_NE(Editor(), nullptr) << "the editor is back";
+        EXPECT_EQ(InspectedPath(), L"Objects[F]");
+    }
+    {
+        const MessageBoxAnswer yes(IDYES);
+        EXPECT_EQ(pane->Closing(&answer), S_OK);
+        EXPECT_EQ(answer, IDYES);
+    }
+    EXPECT_TRUE(static_cast<bool>(Value(L"Objects[F]", L"Locked")));
+    EXPECT_EQ(InspectedPath(), L"");
+    ComPtr<IDispatch> hostOfPane;
+    EXPECT_EQ(pane->get_VandraX(&hostOfPane), S_OK);
+    EXPECT_EQ(hostOfPane.Get(), nullptr);
+    EXPECT_EQ(events->TakeEvents(), (Events{"3", "1", "2", "1", "2", "3"}));
+}
+
+TEST_F(InspectorFollows, HostFailsAtAnyOneCall) {
+    Create(typeField, L"F");
+    SetValue(L"Document", L"AlwaysConfirmAttributeChanges", 1L);
+    Open();
+    for (long call = 1; call < 400; ++call) {
+        pane->put_Object(nullptr);
+        host->SelectObjects(0);
+        const MessageBoxAnswer no(IDNO);
+        const long before = CallCount(host.Get(), L"");
+        ASSERT_EQ(host->FailCall(call, E_FAIL), S_OK);
+        host->SelectObject(_bstr_t(L"Objects[F]"), 0);
+        if (Choose(L"Locked") && Editor()) Click(Field(QZ_EDITOR_CHECK));
+        long answer = 0;
+        pane->Closing(&answer);
+        const long made = CallCount(host.Get(), L"") - before;
+        host->ClearFaults();
+        if (made < call) return;
+    }
+    FAIL() << "the calls never ended";
+}
+
+TEST_F(InspectorFollows, WhatIsNoHostOrObjectIsRefused) {
+    Open();
+    EXPECT_EQ(pane->put_Object(nullptr), S_OK);
+    const auto attribute = ComPtr<IDispatch>(events.Get());
+    EXPECT_NE(pane->put_Object(attribute.Get()), S_OK);
+    EXPECT_EQ(InspectedPath(), L"");
+    EXPECT_EQ(pane->put_VandraX(attribute.Get()), E_NOINTERFACE);
+    EXPECT_EQ(pane->get_VandraX(nullptr), E_POINTER);
+    EXPECT_EQ(pane->get_Object(nullptr), E_POINTER);
+    EXPECT_EQ(pane->get_SelectionName(nullptr), E_POINTER);
+    EXPECT_EQ(SelectionName(), L"<no-object>");
+}
+
+}  // namespace
+}  // namespace qz

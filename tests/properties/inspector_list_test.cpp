@@ -1,0 +1,53 @@
+// Tabs, list and description of the inspected object, and what is remembered from one to the next.
+#include "tests/properties/inspector_fixture.h"
+
+#include <algorithm>
+
+namespace qz {
+namespace {
+
+TEST_F(InspectorTest, TabsStandInTheOrderOfTheAttributes) {
+    const auto field = Create(typeField, L"F");
+    Open();
+    EXPECT_TRUE(Tabs().empty());
+    Inspect(field);
+    EXPECT_EQ(Tabs(), (Texts{L"Standard", L"Advanced", L"Borders", L"Fills", L"Shading", L"Group 1",
+                             L"Group 2", L"Text", L"Caption", L"Data", L"Dynamic", L"Methods", L"Section",
+                             L"Metadata", L"Actions", L"All"}));
+    EXPECT_EQ(Tabs()[static_cast<size_t>(SelectedTab())], L"All");
+    const Texts all = Names();
+    EXPECT_EQ(std::ranges::count(all, L"InternalHandle") + std::ranges::count(all, L"Unsorted"), 0);
+    ChooseTab(2);
+    EXPECT_EQ(Names(), (Texts{L"BorderStyle", L"BorderWidth", L"BorderColor"}));
+    ASSERT_TRUE(Choose(L"BorderWidth"));
+    EXPECT_EQ(Description(), L"Width of the border in points");
+    // The same kind of object again: tab and attribute come back.
+    Inspect(Create(typeField, L"G"));
+    EXPECT_EQ(SelectedTab(), 2);
+    EXPECT_EQ(ChosenName(), L"BorderWidth");
+    // A kind without that category: "All" is remembered from then on, the name is not there any more.
+    Inspect(Create(typeFormAction, L"A"));
+    EXPECT_EQ(Tabs(), (Texts{L"Standard", L"Advanced", L"Actions", L"All"}));
+    EXPECT_EQ(SelectedTab(), 3);
+    Inspect(field);
+    EXPECT_EQ(Tabs()[static_cast<size_t>(SelectedTab())], L"All");
+    EXPECT_EQ(ChosenName(), L"");
+}
+
+TEST_F(InspectorTest, TruthIsWrittenAndTakenBackByEscape) {
+    const auto field = Create(typeField, L"F");
+    Open();
+    Inspect(field);
+    ASSERT_TRUE(Choose(L"Locked"));
+    ASSERT_NE(Editor(), nullptr);
+    EXPECT_EQ(TextOf(Field(QZ_EDITOR_CHECK)), L"&True");
+    EXPECT_EQ(SendMessageW(Field(QZ_EDITOR_CHECK), BM_GETCHECK, 0, 0), BST_UNCHECKED);
+    Click(Field(QZ_EDITOR_CHECK));
+    EXPECT_TRUE(static_cast<bool>(Value(L"Objects[F]", L"Locked")));
+    Press(Field(QZ_EDITOR_CHECK), VK_ESCAPE);
+    EXPECT_FALSE(static_cast<bool>(Value(L"Objects[F]", L"Locked")));
+    EXPECT_EQ(SendMessageW(Field(QZ_EDITOR_CHECK), BM_GETCHECK, 0, 0), BST_UNCHECKED);
+}
+
+}  // namespace
+}  // namespace qz
