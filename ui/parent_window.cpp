@@ -20,12 +20,10 @@ HWND ParentWindow(const VARIANT& handle) {
         Throw(E_INVALIDARG, L"The parent window is no number");
     }
     if (HoldsNothing(plain)) return nullptr;
+    const bool unsignedHandle = plain.vt == VT_UI4 || plain.vt == VT_UINT;
+    if (unsignedHandle) plain.vt = VT_I4;  // the same bits, with a sign to extend
     _variant_t number;
-    if (plain.vt == VT_I4 || plain.vt == VT_INT)
-        number = static_cast<long long>(plain.lVal);
-    else if (plain.vt == VT_UI4 || plain.vt == VT_UINT)
-        number = static_cast<long long>(plain.lVal);
-    else if (FAILED(VariantChangeType(&number, &plain, 0, VT_I8))) {
+    if (FAILED(VariantChangeType(&number, &plain, 0, VT_I8))) {
         Throw(E_INVALIDARG, L"The parent window is no number");
     }
     const HWND window = reinterpret_cast<HWND>(static_cast<LONG_PTR>(number.llVal));

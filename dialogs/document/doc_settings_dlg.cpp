@@ -17,7 +17,7 @@ ComPtr<IDispatch> DocumentOf(IVandraX* host) {
     return document;
 }
 
-void RunDialog(ComPtr<IVandraX> host, HWND parent) {
+void RunDialog(const ComPtr<IVandraX>& host, HWND parent) {
     RegisterTextEdits();
     const Language language = LanguageOf(host.Get());
     const SettingsSource source{host, DocumentOf(host.Get())};
@@ -55,7 +55,8 @@ STDMETHODIMP DocSettingsDlg::DoModal(VARIANT hWndParent) {
         if (!host_) Throw(E_POINTER, L"The document settings need a host: call Initialize first");
         if (open_) Throw(E_FAIL, L"The dialog is open already");
         const OpenMark mark(open_);
-        RunDialog(host_, parent);
+        const ComPtr<IVandraX> host = host_;  // it may be put anew while the dialog runs
+        RunDialog(host, parent);
     });
 }
 
