@@ -18,6 +18,7 @@ void InspectorDialog::OnInit() {
     };
     name(QZ_INSPECTOR_TABS, QZ_TEXT_CATEGORIES);
     name(QZ_INSPECTOR_LIST, QZ_TEXT_ATTRIBUTES);
+    list_.Attach(List());
     keys_.Watch(Handle());
 }
 
@@ -51,7 +52,7 @@ HWND InspectorDialog::List() const noexcept { return Item(QZ_INSPECTOR_LIST); }
 
 HWND InspectorDialog::BeforeEditor() const noexcept { return Item(QZ_INSPECTOR_DESCRIPTION); }
 
-void InspectorDialog::ClearList() { SendItem(QZ_INSPECTOR_LIST, LB_RESETCONTENT); }
+void InspectorDialog::ClearList() { list_.SendToClass(LB_RESETCONTENT); }
 
 void InspectorDialog::SuspendList(bool suspended) {
     SendItem(QZ_INSPECTOR_LIST, WM_SETREDRAW, !suspended);
@@ -59,10 +60,9 @@ void InspectorDialog::SuspendList(bool suspended) {
 }
 
 void InspectorDialog::AppendRow(const std::wstring& name, long index) {
-    const LRESULT entry =
-        SendItem(QZ_INSPECTOR_LIST, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(name.c_str()));
+    const LRESULT entry = list_.SendToClass(LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(name.c_str()));
     if (entry < 0) Throw(E_OUTOFMEMORY, L"The list of attributes takes no more");
-    SendItem(QZ_INSPECTOR_LIST, LB_SETITEMDATA, static_cast<WPARAM>(entry), index);
+    list_.SendToClass(LB_SETITEMDATA, static_cast<WPARAM>(entry), index);
 }
 
 std::wstring InspectorDialog::EntryText(WPARAM entry) const {
@@ -71,13 +71,6 @@ std::wstring InspectorDialog::EntryText(WPARAM entry) const {
     std::wstring text(static_cast<std::size_t>(length), L'\0');
     SendItem(QZ_INSPECTOR_LIST, LB_GETTEXT, entry, reinterpret_cast<LPARAM>(text.data()));
     return text;
-}
-
-std::vector<std::wstring> InspectorDialog::Names() const {
-    std::vector<std::wstring> names;
-    const LRESULT count = SendItem(QZ_INSPECTOR_LIST, LB_GETCOUNT);
-    for (LRESULT entry = 0; entry < count; ++entry) names.push_back(EntryText(static_cast<WPARAM>(entry)));
-    return names;
 }
 
 void InspectorDialog::Choose(std::size_t entry) {

@@ -47,7 +47,6 @@ class InspectorDialog final : public Dialog, private ChildKeyListener {
     void ClearList();
     void SuspendList(bool suspended);
     void AppendRow(const std::wstring& name, long index);
-    std::vector<std::wstring> Names() const;
     /// Selects an entry as if the user had clicked it.
     void Choose(std::size_t entry);
     /// The text, and the attribute's index, of the entry selected; nothing when none is.
@@ -80,6 +79,7 @@ class InspectorDialog final : public Dialog, private ChildKeyListener {
     void Place(int id, const Rect& bounds) const noexcept;
 
     InspectorDialogListener& listener_;
+    ChildWindow list_;  ///< The way past those who look at the list's messages.
     ChildKeys keys_{*this};
     SIZE client_{};
     InspectorPlaces places_;

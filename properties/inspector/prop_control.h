@@ -66,7 +66,7 @@ class PropControl final
     void ShowObject();
     std::vector<AttributeRow> ReadRows();
     void FillList(const std::vector<AttributeRow>& rows);
-    void ChooseRemembered();
+    void ChooseRemembered(const std::vector<std::wstring>& names);
     void OpenEditor(long index);
     void ShowEditor(const ValueDlgPointer& editor);
     void PlaceEditor();

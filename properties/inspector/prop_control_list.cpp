@@ -108,15 +108,18 @@ void PropControl::FillList(const std::vector<AttributeRow>& rows) {
     Memory().SetCategory(static_cast<std::uint32_t>(tab));
     dialog_->SuspendList(true);
     dialog_->ClearList();
+    std::vector<std::wstring> names;
     for (const AttributeRow& row : rows) {
-        if (IsIn(row, tab)) dialog_->AppendRow(row.name, row.index);
+        if (!IsIn(row, tab)) continue;
+        dialog_->AppendRow(row.name, row.index);
+        names.push_back(row.name);
     }
     dialog_->SuspendList(false);
-    ChooseRemembered();
+    ChooseRemembered(names);
 }
 
-void PropControl::ChooseRemembered() {
-    const auto entry = FindName(dialog_->Names(), Memory().Name(), EqualIgnoringCase);
+void PropControl::ChooseRemembered(const std::vector<std::wstring>& names) {
+    const auto entry = FindName(names, Memory().Name(), EqualIgnoringCase);
     if (entry)
         dialog_->Choose(*entry);
     else
