@@ -38,15 +38,19 @@ struct Inspected {
     ComPtr<IDispatch> object;
 };
 
-/// The readings and insertions that filling the list cannot do without.
+/// The readings and insertions that filling the list cannot do without, into a list that is as visible as
+/// ours.
 class BareList {
   public:
     BareList()
-        : list_(CreateWindowExW(0, L"LISTBOX", L"", WS_POPUP | WS_VSCROLL | LBS_NOTIFY, 0, 0, 200, 300,
-                                nullptr, nullptr, nullptr, nullptr)) {
+        : frame_(CreateWindowExW(0, L"STATIC", L"", WS_POPUP | WS_VISIBLE, 400, 0, 300, 500, nullptr, nullptr,
+                                 nullptr, nullptr)),
+          list_(CreateWindowExW(0, L"LISTBOX", L"", listStyle, 0, 0, 280, 200, frame_, nullptr, nullptr,
+                                nullptr)) {
         ThrowLastErrorIf(!list_, L"The list cannot be made");
+        PumpMessages();
     }
-    ~BareList() { DestroyWindow(list_); }
+    ~BareList() { DestroyWindow(frame_); }
     BareList(const BareList&) = delete;
     BareList& operator=(const BareList&) = delete;
 
@@ -62,6 +66,9 @@ class BareList {
     }
 
   private:
+    static constexpr DWORD listStyle =
+        WS_CHILD | WS_VISIBLE | WS_VSCROLL | WS_BORDER | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT;
+
     void Insert(IDispatch* attribute) {
         if (!category_) {
             category_ = IdOf(attribute, L"Category"), flags_ = IdOf(attribute, L"Flags");
@@ -92,6 +99,7 @@ class BareList {
     }
 
     Inspected inspected_;
+    HWND frame_;
     HWND list_;
     DISPID category_ = 0, flags_ = 0, name_ = 0, index_ = 0;
 };

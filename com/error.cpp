@@ -12,14 +12,14 @@ namespace qz {
 
 namespace {
 
-std::wstring Compose(HRESULT code, const std::wstring& text) {
+std::wstring Compose(HRESULT code, std::wstring_view text) {
     const std::wstring system = DescribeError(code);
-    return text.empty() ? system : text + L" (" + system + L")";
+    return text.empty() ? system : std::wstring(text) + L" (" + system + L")";
 }
 
 }  // namespace
 
-void Throw(HRESULT code, const std::wstring& text) { throw ComError(code, Compose(code, text)); }
+void Throw(HRESULT code, std::wstring_view text) { throw ComError(code, Compose(code, text)); }
 
 void RequirePointer(const void* pointer) {
     if (!pointer) Throw(E_POINTER, L"A pointer argument is null");

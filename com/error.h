@@ -7,6 +7,7 @@
 
 #include <exception>
 #include <string>
+#include <string_view>
 #include <type_traits>
 #include <utility>
 
@@ -22,11 +23,11 @@ struct ComError : std::exception {
 };
 
 /// Throws a ComError. An empty text is replaced by the system's own text for the code.
-[[noreturn]] void Throw(HRESULT code, const std::wstring& text = {});
+[[noreturn]] void Throw(HRESULT code, std::wstring_view text = {});
 
 /// Throws when `code` is a failure. `text` says what was attempted; the system's text is appended.
 inline void ThrowIfFailed(HRESULT code, const wchar_t* text = nullptr) {
-    if (FAILED(code)) Throw(code, text ? text : L"");
+    if (FAILED(code)) Throw(code, text ? std::wstring_view(text) : std::wstring_view());
 }
 
 /// Throws E_POINTER when an argument that must not be null is null.

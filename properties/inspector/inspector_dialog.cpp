@@ -8,6 +8,8 @@
 #include "ui/platform_geometry.h"
 #include "ui/screen.h"
 
+#include <algorithm>
+
 namespace qz {
 
 const unsigned InspectorDialog::dialogTemplate = QZ_DIALOG_INSPECTOR;
@@ -23,6 +25,14 @@ void InspectorDialog::OnInit() {
 }
 
 void InspectorDialog::SetTabs(std::span<const wchar_t> codes, std::size_t selected) {
+    // Objects of one kind have the same tabs, and making tabs anew is slow.
+    if (!std::ranges::equal(codes, tabs_)) InsertTabs(codes);
+    if (SendItem(QZ_INSPECTOR_TABS, TCM_GETCURSEL) != static_cast<LRESULT>(selected)) {
+        SendItem(QZ_INSPECTOR_TABS, TCM_SETCURSEL, selected);
+    }
+}
+
+void InspectorDialog::InsertTabs(std::span<const wchar_t> codes) {
     RemoveTabs();
     for (std::size_t i = 0; i < codes.size(); ++i) {
         std::wstring label = LoadText(TextLanguage(), TextIdOfTab(codes[i]));
@@ -32,11 +42,15 @@ void InspectorDialog::SetTabs(std::span<const wchar_t> codes, std::size_t select
         tab.lParam = codes[i];
         SendItem(QZ_INSPECTOR_TABS, TCM_INSERTITEMW, i, reinterpret_cast<LPARAM>(&tab));
     }
-    SendItem(QZ_INSPECTOR_TABS, TCM_SETCURSEL, selected);
+    tabs_.assign(codes.begin(), codes.end());
     Arrange(client_);  // the tab control tells its height only once it has tabs
 }
 
-void InspectorDialog::RemoveTabs() { SendItem(QZ_INSPECTOR_TABS, TCM_DELETEALLITEMS); }
+void InspectorDialog::RemoveTabs() {
+    if (tabs_.empty()) return;
+    SendItem(QZ_INSPECTOR_TABS, TCM_DELETEALLITEMS);
+    tabs_.clear();
+}
 
 wchar_t InspectorDialog::CurrentTab() const {
     TCITEMW tab{};
@@ -55,7 +69,8 @@ HWND InspectorDialog::BeforeEditor() const noexcept { return Item(QZ_INSPECTOR_D
 void InspectorDialog::ClearList() { list_.SendToClass(LB_RESETCONTENT); }
 
 void InspectorDialog::SuspendList(bool suspended) {
-    SendItem(QZ_INSPECTOR_LIST, WM_SETREDRAW, !suspended);
+    if (!Handle()) return;
+    list_.SendToClass(WM_SETREDRAW, !suspended);
     if (!suspended) InvalidateRect(List(), nullptr, TRUE);
 }
 
@@ -92,7 +107,9 @@ std::optional<long> InspectorDialog::ChosenIndex() const {
 }
 
 void InspectorDialog::SetDescription(const std::wstring& text) {
+    if (text == description_) return;
     SetItemText(QZ_INSPECTOR_DESCRIPTION, text);
+    description_ = text;
 }
 
 void InspectorDialog::SetSeveralValues(bool several) {

@@ -43,8 +43,8 @@ class InspectorDialog final : public Dialog, private ChildKeyListener {
     /// The code of the tab selected; "All" when there is none.
     wchar_t CurrentTab() const;
 
-    /// Empties the list, then takes rows at its end. Between the two calls of `SuspendList` nothing is drawn.
     void ClearList();
+    /// Nothing of the list is drawn between the two calls: see `ListRefill`.
     void SuspendList(bool suspended);
     void AppendRow(const std::wstring& name, long index);
     /// Selects an entry as if the user had clicked it.
@@ -74,6 +74,7 @@ class InspectorDialog final : public Dialog, private ChildKeyListener {
     bool WantsKey(HWND control, UINT message, WPARAM key) override;
     void OnKey(HWND control, UINT message, WPARAM key) override;
 
+    void InsertTabs(std::span<const wchar_t> codes);
     std::wstring EntryText(WPARAM entry) const;
     InspectorMetrics Metrics(SIZE client) const;
     void Place(int id, const Rect& bounds) const noexcept;
@@ -81,8 +82,30 @@ class InspectorDialog final : public Dialog, private ChildKeyListener {
     InspectorDialogListener& listener_;
     ChildWindow list_;  ///< The way past those who look at the list's messages.
     ChildKeys keys_{*this};
+    std::vector<wchar_t> tabs_;  ///< Their codes.
+    std::wstring description_;
     SIZE client_{};
     InspectorPlaces places_;
+};
+
+/// Empties the dialog's list for new rows. It is drawn, with its scroll bar, when this ends and no sooner: a
+/// scroll bar that goes and comes back costs more than the rows.
+class ListRefill {
+  public:
+    explicit ListRefill(std::shared_ptr<InspectorDialog> dialog) : dialog_(std::move(dialog)) {
+        dialog_->SuspendList(true);
+        dialog_->ClearList();
+    }
+    ~ListRefill() { End(); }
+    ListRefill(ListRefill&& other) noexcept = default;
+    ListRefill& operator=(ListRefill&&) = delete;
+
+    void End() noexcept {
+        if (const auto dialog = std::exchange(dialog_, nullptr)) dialog->SuspendList(false);
+    }
+
+  private:
+    std::shared_ptr<InspectorDialog> dialog_;
 };
 
 }  // namespace qz

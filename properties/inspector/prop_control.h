@@ -65,7 +65,7 @@ class PropControl final
     // prop_control_list.cpp: tabs, list, editor
     void ShowObject();
     std::vector<AttributeRow> ReadRows();
-    void FillList(const std::vector<AttributeRow>& rows);
+    void FillList(const std::vector<AttributeRow>& rows, ListRefill refill);
     void ChooseRemembered(const std::vector<std::wstring>& names);
     void OpenEditor(long index);
     void ShowEditor(const ValueDlgPointer& editor);

@@ -72,14 +72,14 @@ void PropControl::ShowObject() {
     const unsigned stage = objectStage_;
     ShowWindow(DialogWindow(), object_ && Host() ? SW_SHOWNA : SW_HIDE);
     Invalidate();
-    dialog_->RemoveTabs();
-    dialog_->ClearList();
+    ListRefill refill(dialog_);
     dialog_->SetDescription({});
+    if (!object_ || !Host()) return dialog_->RemoveTabs();
     const std::vector<AttributeRow> rows = ReadRows();
     if (stage != objectStage_ || !DialogWindow() || !object_) return;
     const std::vector<wchar_t> tabs = TabsOf(rows);
     dialog_->SetTabs(tabs, TabToSelect(tabs, Memory().Category()));
-    FillList(rows);
+    FillList(rows, std::move(refill));
 }
 
 /// The attributes that can be listed. A host that fails on the way ends the list there; one that gives no
@@ -103,18 +103,16 @@ std::vector<AttributeRow> PropControl::ReadRows() {
     return rows;
 }
 
-void PropControl::FillList(const std::vector<AttributeRow>& rows) {
+void PropControl::FillList(const std::vector<AttributeRow>& rows, ListRefill refill) {
     const wchar_t tab = dialog_->CurrentTab();
     Memory().SetCategory(static_cast<std::uint32_t>(tab));
-    dialog_->SuspendList(true);
-    dialog_->ClearList();
     std::vector<std::wstring> names;
     for (const AttributeRow& row : rows) {
         if (!IsIn(row, tab)) continue;
         dialog_->AppendRow(row.name, row.index);
         names.push_back(row.name);
     }
-    dialog_->SuspendList(false);
+    refill.End();
     ChooseRemembered(names);
 }
 
@@ -130,10 +128,10 @@ void PropControl::OnTabChosen() {
     const unsigned stage = objectStage_;
     CloseEditor();
     if (stage != objectStage_ || !DialogWindow()) return;
-    dialog_->ClearList();
+    ListRefill refill(dialog_);
     dialog_->SetDescription({});
     const std::vector<AttributeRow> rows = ReadRows();
-    if (stage == objectStage_ && DialogWindow()) FillList(rows);
+    if (stage == objectStage_ && DialogWindow()) FillList(rows, std::move(refill));
 }
 
 void PropControl::OnAttributeChosen() {

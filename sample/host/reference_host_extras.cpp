@@ -246,10 +246,8 @@ STDMETHODIMP MemoryHost::ClearOverrides() {
 }
 
 STDMETHODIMP MemoryHost::RaiseChange(long flags) {
-    return Extra([&] {
-        const ComPtr<IReferenceHost> alive = this;
-        Raise(static_cast<uint32_t>(flags));
-    });
+    const ComPtr<IReferenceHost> alive = this;
+    return Extra([&] { Raise(static_cast<uint32_t>(flags)); });
 }
 
 STDMETHODIMP MemoryHost::get_SinkCount(long* count) {
