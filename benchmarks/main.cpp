@@ -24,6 +24,7 @@ void RunAll() {
     MeasureLayers(report);
     MeasureOutline(report);
     MeasureInspector(report);
+    MeasureDocumentSettings(report);
     MeasureFormatting(report);
     MeasureXml(report);
     report.PrintSummary();

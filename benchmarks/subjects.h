@@ -35,6 +35,9 @@ void MeasureOutline(Report& report);
 /// Listing many attributes of an object, against the bare host calls and insertions.
 void MeasureInspector(Report& report);
 
+/// Opening the settings of a long document with many fonts, against the bare reads.
+void MeasureDocumentSettings(Report& report);
+
 /// Formatting a number, against the system's own function.
 void MeasureFormatting(Report& report);
 

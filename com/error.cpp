@@ -60,6 +60,13 @@ void SetErrorText(REFIID iid, const std::wstring& text) noexcept {
     if (SUCCEEDED(create.As(&info))) SetErrorInfo(0, info.Get());
 }
 
+std::wstring TakeErrorText(HRESULT code) {
+    ComPtr<IErrorInfo> info;
+    _bstr_t text;
+    if (GetErrorInfo(0, &info) == S_OK) info->GetDescription(text.GetAddress());
+    return text.length() ? std::wstring(text, text.length()) : DescribeError(code);
+}
+
 HRESULT TurnException(REFIID iid) noexcept {
     const auto report = [&iid](HRESULT code, const wchar_t* text) {
         try {

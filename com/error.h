@@ -42,6 +42,10 @@ std::wstring DescribeError(HRESULT code);
 /// Sets the thread's IErrorInfo, naming `iid` as the interface that failed. Never throws.
 void SetErrorText(REFIID iid, const std::wstring& text) noexcept;
 
+/// Takes the text of the thread's IErrorInfo: what the failed call has told. Without one it is the system's
+/// for `code`.
+std::wstring TakeErrorText(HRESULT code);
+
 /// To be called inside a catch block: the HRESULT for the exception in flight; sets IErrorInfo.
 HRESULT TurnException(REFIID iid) noexcept;
 

@@ -23,6 +23,8 @@ class Bstr {
     ~Bstr() { SysFreeString(text_); }
 
     BSTR Get() const noexcept { return text_; }
+    /// The caller owns it from now on.
+    BSTR Detach() noexcept { return std::exchange(text_, nullptr); }
 
   private:
     BSTR text_;

@@ -2,12 +2,11 @@
 
 #include "host/array_elements.h"
 #include "host/attributes.h"
+#include "host/text_variant.h"
 
 namespace qz {
 
 namespace {
-
-_variant_t TextVariant(std::wstring_view text) { return _variant_t(Bstr(text).Get()); }
 
 /// Calls a member of a collection by the dispatch id that all collections have it at.
 _variant_t CallCollection(IDispatch* collection, DISPID id, DISPPARAMS parameters, const wchar_t* failure) {

@@ -9,7 +9,12 @@
 
 namespace qz {
 
-/// Throws E_OUTOFMEMORY when the text cannot be allocated.
-inline _variant_t TextVariant(std::wstring_view text) { return _variant_t(Bstr(text).Get()); }
+/// The text may hold nulls. Throws E_OUTOFMEMORY when it cannot be allocated.
+inline _variant_t TextVariant(std::wstring_view text) {
+    VARIANT value{};
+    value.vt = VT_BSTR;
+    value.bstrVal = Bstr(text).Detach();
+    return {value, false};
+}
 
 }  // namespace qz

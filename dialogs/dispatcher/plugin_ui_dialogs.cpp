@@ -85,9 +85,9 @@ HRESULT PluginUIDialogs::Run(CallMode mode, long command, const VARIANT* dataIn,
     return Guard(__uuidof(IqzPluginUIDialogs), [&]() -> HRESULT {
         const ModeScope scope(mode_, mode);
         const ToolCommand& tool = RequireCommand(command);
-        options_.LoadOnce(host_.Get());
         ToolCall call;
-        call.host = host_;
+        call.host = host_;  // kept, for the host may take itself out while it is asked
+        options_.LoadOnce(call.host.Get());
         call.parent = ParentWindow(_variant_t(parent_));
         call.mode = mode_;
         call.dataIn = dataIn;

@@ -2,6 +2,7 @@
 
 #include "dialogs/docx/docx_settings_dlg.h"
 #include "dialogs/nup/nup_settings_dlg.h"
+#include "host/host_language.h"
 #include "settings/settings_store.h"
 
 #include <comdef.h>
@@ -37,7 +38,9 @@ HRESULT AskAndHandBack(const ToolCall& call, Ask&& ask) {
     Record record;
     store.Read(record);
     if (!ask(record)) return S_FALSE;
-    if (!store.Write(record).stored) OutputDebugStringW(L"The settings could not be kept in the registry\n");
+    const bool kept = store.Write(record).stored;
+    if (!kept && !call.dataOut) Throw(E_FAIL, L"The settings could not be kept in the registry");
+    if (!kept) OutputDebugStringW(L"The settings could not be kept in the registry\n");
     HandBack(record, call);
     return S_OK;
 }
@@ -47,8 +50,8 @@ NUpMode ModeOf(const VARIANT* dataIn) {
     const bool given = dataIn && SUCCEEDED(VariantCopyInd(&plain, const_cast<VARIANT*>(dataIn))) &&
                        plain.vt != VT_EMPTY && plain.vt != VT_NULL && plain.vt != VT_ERROR;
     _variant_t number;
-    if (!given || FAILED(VariantChangeType(&number, &plain, 0, VT_I2))) return NUpMode::Everything;
-    switch (number.iVal) {
+    if (!given || FAILED(VariantChangeType(&number, &plain, 0, VT_I8))) return NUpMode::Everything;
+    switch (static_cast<short>(number.llVal)) {  // what a 16-bit reader finds in the VARIANT
         case 0:
             return NUpMode::Printing;
         case 1:
@@ -61,13 +64,13 @@ NUpMode ModeOf(const VARIANT* dataIn) {
 }  // namespace
 
 HRESULT RunDocxSettings(const ToolCall& call) {
-    const Language language = LanguageOfHost(call.host.Get());
+    const Language language = LanguageOf(call.host.Get());
     return AskAndHandBack<zrDocxSettings>(
         call, [&](zrDocxSettings& record) { return AskForDocxSettings(call.parent, language, record); });
 }
 
 HRESULT RunNUpSettings(const ToolCall& call) {
-    const Language language = LanguageOfHost(call.host.Get());
+    const Language language = LanguageOf(call.host.Get());
     const NUpMode mode = ModeOf(call.dataIn);
     return AskAndHandBack<zrNUpSettings>(
         call, [&](zrNUpSettings& record) { return AskForNUpSettings(call.parent, language, mode, record); });

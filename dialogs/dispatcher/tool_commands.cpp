@@ -4,7 +4,6 @@
 #include "dialogs/document/doc_settings_dlg.h"
 
 #include "generated/qzVandraExt.h"
-#include "generated/vandra_x.h"
 
 #include <comdef.h>
 
@@ -51,14 +50,6 @@ const ToolCommand& RequireCommand(long number) {
                              L") does not exist yet");
     }
     return *found;
-}
-
-Language LanguageOfHost(IDispatch* host) {
-    ComPtr<IVandraX> vandra;
-    short language = 0;
-    if (!host || FAILED(host->QueryInterface(IID_PPV_ARGS(&vandra)))) return Language::English;
-    if (FAILED(vandra->GetLanguageId(&language))) return Language::English;
-    return LanguageFromId(static_cast<std::uint16_t>(language));
 }
 
 }  // namespace qz

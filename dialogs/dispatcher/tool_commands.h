@@ -2,7 +2,6 @@
 #pragma once
 
 #include "com/object.h"
-#include "res/language.h"
 
 #include <oaidl.h>
 
@@ -30,8 +29,5 @@ struct ToolCommand {
 /// The command of that number. Throws E_NOTIMPL, naming the command where it has a name, when it has no
 /// dialog.
 const ToolCommand& RequireCommand(long number);
-
-/// The language of a host's user; English without a host.
-Language LanguageOfHost(IDispatch* host);
 
 }  // namespace qz

@@ -8,18 +8,14 @@ namespace qz {
 
 HRESULT CDocSettingsDlgTab::Exchange(ExchangeDirection direction) noexcept {
     return Guard(IID_NULL, [&] {
-        failure_.clear();
-        try {
-            if (!source_.document) Throw(E_POINTER, L"The host gives no document");
-            direction == ExchangeDirection::Fill ? Fill() : Write();
-        } catch (const ComError& error) {
-            failure_ = error.text;
-            throw;
-        }
+        if (!source_.document) Throw(E_POINTER, L"The host gives no document");
+        direction == ExchangeDirection::Fill ? Fill() : Write();
     });
 }
 
-void CDocSettingsDlgTab::ShowFailure() { ShowError(failure_); }
+void CDocSettingsDlgTab::ShowFailure(HRESULT code) {
+    ShowError(Text(QZ_TEXT_VALUE_NOT_WRITTEN) + L"\n\n" + TakeErrorText(code));
+}
 
 void CDocSettingsDlgTab::ShowError(const std::wstring& text) const {
     MessageBeep(MB_ICONERROR);

@@ -23,11 +23,12 @@ struct SettingsSource {
 class CDocSettingsDlgTab : public Dialog {
   public:
     /// Fills the controls from the document, or writes them back. The failure of the first call of the host
-    /// that fails, where the tab stops, is the result; E_POINTER without a document.
+    /// that fails, where the tab stops, is the result, told by the thread's IErrorInfo; E_POINTER without a
+    /// document.
     HRESULT Exchange(ExchangeDirection direction) noexcept;
 
-    /// Tells the user of the exchange that has just failed, in a message box or otherwise.
-    virtual void ShowFailure();
+    /// Tells the user of the write that has just failed, in a message box or otherwise.
+    virtual void ShowFailure(HRESULT code);
 
   protected:
     CDocSettingsDlgTab(unsigned templateId, const SettingsSource& source, Language language) noexcept
@@ -50,7 +51,6 @@ class CDocSettingsDlgTab : public Dialog {
   private:
     SettingsSource source_;
     HostObjects objects_;
-    std::wstring failure_;
 };
 
 }  // namespace qz

@@ -39,6 +39,8 @@ void DocSettingsWindow::OnInit() {
                      area.bottom - area.top, SWP_NOACTIVATE);
     }
     ShowTab(0);
+    keys_.Watch(Handle());
+    for (const auto& tab : tabs_) keys_.Watch(tab->Handle());
     for (const auto& tab : tabs_) {
         if (FAILED(tab->Exchange(ExchangeDirection::Fill))) ShowErrorInDebugger();
         if (!Handle()) return;
@@ -61,6 +63,11 @@ RECT DocSettingsWindow::TabArea() const noexcept {
     return area;
 }
 
+std::size_t DocSettingsWindow::ChosenTab() const noexcept {
+    const LRESULT chosen = SendItem(QZ_DOCUMENT_TABS, TCM_GETCURSEL);
+    return chosen < 0 ? 0 : static_cast<std::size_t>(chosen);
+}
+
 void DocSettingsWindow::ShowTab(std::size_t tab) const {
     SendItem(QZ_DOCUMENT_TABS, TCM_SETCURSEL, tab);
     for (std::size_t each = 0; each < tabCount; ++each) {
@@ -72,9 +79,21 @@ std::optional<LRESULT> DocSettingsWindow::OnMessage(UINT message, WPARAM, LPARAM
     if (message != WM_NOTIFY) return std::nullopt;
     const auto& header = *reinterpret_cast<const NMHDR*>(lParam);
     if (header.idFrom != QZ_DOCUMENT_TABS || header.code != TCN_SELCHANGE) return std::nullopt;
-    const LRESULT chosen = SendItem(QZ_DOCUMENT_TABS, TCM_GETCURSEL);
-    if (chosen >= 0) ShowTab(static_cast<std::size_t>(chosen));
+    ShowTab(ChosenTab());
     return 0;
+}
+
+bool DocSettingsWindow::WantsKey(HWND, UINT message, WPARAM key) {
+    const bool control = message == WM_KEYDOWN && GetKeyState(VK_CONTROL) < 0;
+    return control && (key == VK_TAB || key == VK_NEXT || key == VK_PRIOR);
+}
+
+void DocSettingsWindow::OnKey(HWND control, UINT, WPARAM key) {
+    const bool back = key == VK_PRIOR || (key == VK_TAB && GetKeyState(VK_SHIFT) < 0);
+    const std::size_t tab = (ChosenTab() + (back ? tabCount - 1 : 1)) % tabCount;
+    ShowTab(tab);
+    if (GetParent(control) == Handle()) return;  // the strip and the buttons keep the focus
+    if (const HWND first = GetNextDlgTabItem(tabs_[tab]->Handle(), nullptr, FALSE)) SetFocus(first);
 }
 
 bool DocSettingsWindow::OnCommand(int id, int) {
@@ -102,7 +121,7 @@ void DocSettingsWindow::WriteTabs() {
         if (!Handle()) return;
         if (FAILED(outcome)) {
             ShowTab(tab);
-            return tabs_[tab]->ShowFailure();
+            return tabs_[tab]->ShowFailure(outcome);
         }
     }
     EndModal(IDOK);

@@ -27,6 +27,13 @@ int CompareTexts(const std::wstring& left, const std::wstring& right) noexcept {
            CSTR_EQUAL;
 }
 
+/// What is no number is no level.
+int LevelOf(const _variant_t& embedding) noexcept {
+    _variant_t number;
+    const bool told = SUCCEEDED(VariantChangeType(&number, const_cast<_variant_t*>(&embedding), 0, VT_I4));
+    return told ? EmbeddingLevel(number.lVal) : 0;
+}
+
 bool BeginsWith(const std::wstring& text, const std::wstring& start) noexcept {
     return text.size() >= start.size() && CompareTexts(text.substr(0, start.size()), start) == 0;
 }
@@ -80,8 +87,8 @@ std::optional<FontRow> CDocSettingsDlgTab4::ReadFont(IDispatch* font) {
         if (!original.empty()) row.name = std::move(original);
     }
     row.type = ToText(Objects().Attribute(font, L"FontType"));
-    const long embedding = ToLong(Objects().Attribute(font, L"Embedding"));
-    row.level = subset ? partialEmbedding : EmbeddingLevel(embedding);
+    const _variant_t embedding = Objects().Attribute(font, L"Embedding");
+    row.level = subset ? partialEmbedding : LevelOf(embedding);
     row.encoding = ToText(Objects().Attribute(font, L"Encoding"));
     return row;
 }
@@ -223,12 +230,11 @@ void CDocSettingsDlgTab4::ChooseEmbedding(std::size_t font) {
     const auto level = AskForEmbedding(GetAncestor(Handle(), GA_ROOT), rows_[font].level, TextLanguage());
     if (!level) return;
     const ComPtr<IDispatch> object = fonts_[font];
-    try {
+    const HRESULT outcome = Guard(IID_NULL, [&] {
         Objects().SetAttribute(object.Get(), L"Embedding", _variant_t(static_cast<long>(*level)));
         if (const auto row = ReadFont(object.Get())) rows_[font] = *row;
-    } catch (const ComError& error) {
-        if (Handle()) ShowError(error.text);
-    }
+    });
+    if (FAILED(outcome) && Handle()) ShowFailure(outcome);
     if (Handle()) InvalidateRect(Item(QZ_FONTS_LIST), nullptr, TRUE);
 }
 

@@ -65,6 +65,8 @@ class PageSetup {
     /// a custom size begins with what was shown before.
     void ChoosePaper(int paper);
 
+    /// Whether the user has changed or chosen anything.
+    bool Edited(const SetupEntries& now) const { return paperChosen_ || now != shown_; }
     SetupValues Written(const SetupEntries& now) const;
 
   private:

@@ -49,10 +49,13 @@ _variant_t ToVariant(std::int32_t value, SetupType type) {
         case SetupType::Boolean:
             return _variant_t(value != 0);
         case SetupType::Short:
-            return _variant_t(static_cast<short>(value));
-        default:
-            return _variant_t(static_cast<long>(value));
+            // What the document had, and does not fit, goes back as it is.
+            if (static_cast<short>(value) == value) return _variant_t(static_cast<short>(value));
+            break;
+        case SetupType::Long:
+            break;
     }
+    return _variant_t(static_cast<long>(value));
 }
 
 }  // namespace
@@ -65,7 +68,8 @@ void CDocSettingsDlgTab3::OnInit() {
     AppendText(QZ_SETUP_PAPER, QZ_TEXT_CUSTOM_SIZE);
     AppendTexts(QZ_SETUP_BIN, QZ_TEXT_BIN_1, binCount);
     for (const SizeControl& control : sizeControls) SendItem(control.id, EM_SETLIMITTEXT, longestText);
-    SendItem(ButtonOf(lastScope), BM_SETCHECK, BST_CHECKED);
+    shownScope_ = lastScope;
+    SendItem(ButtonOf(shownScope_), BM_SETCHECK, BST_CHECKED);
     ShowSetup();
 }
 
@@ -141,9 +145,11 @@ void CDocSettingsDlgTab3::EnableSizes() const noexcept {
 // ------------------------------------------------------------------------------------------------------
 
 bool CDocSettingsDlgTab3::OnCommand(int id, int notification) {
-    if (id != QZ_SETUP_PAPER || notification != CBN_SELCHANGE) return false;
-    OnPaperChosen();
-    return true;
+    const bool list = id == QZ_SETUP_PAPER || id == QZ_SETUP_BIN;
+    const bool chosen = list && notification == CBN_SELCHANGE;
+    touched_ |= chosen || (id == QZ_SETUP_LANDSCAPE && notification == BN_CLICKED);
+    if (id == QZ_SETUP_PAPER && chosen) OnPaperChosen();
+    return chosen;
 }
 
 void CDocSettingsDlgTab3::OnPaperChosen() {
@@ -179,8 +185,12 @@ SetupEntries CDocSettingsDlgTab3::Entries() const {
     return entries;
 }
 
+/// Writes all or nothing: values that nobody touched would give all pages the size of the first.
 void CDocSettingsDlgTab3::Write() {
-    const SetupValues written = setup_.Written(Entries());
+    const SetupEntries entries = Entries();
+    touched_ |= setup_.Edited(entries) || ChosenScope() != shownScope_;
+    if (!touched_) return;
+    const SetupValues written = setup_.Written(entries);
     lastScope = ChosenScope();
     ScopedWriter writer(Source().host.Get(), Source().document.Get(), Objects(), lastScope);
     for (std::size_t place = 0; place < SetupPlaceCount; ++place) {

@@ -29,6 +29,8 @@ class CDocSettingsDlgTab3 final : public CDocSettingsDlgTab {
     PageScope ChosenScope() const noexcept;
 
     PageSetup setup_;
+    PageScope shownScope_ = PageScope::All;
+    bool touched_ = false;  ///< Something was chosen, or a write was tried.
 };
 
 }  // namespace qz

@@ -95,7 +95,10 @@ void CDocSettingsDlgTab2::Write() {
                      QZ_SECURITY_OWNER_CONFIRMATION);
     RequireConfirmed(wanted.user, entered(&Passwords::userConfirmation, document.user),
                      QZ_SECURITY_USER_CONFIRMATION);
-    if (const auto change = ProtectionToApply(document, wanted)) Apply(*change);
+    const auto change = ProtectionToApply(document, wanted);
+    if (!change) return;
+    Apply(*change);
+    shown_ = now;  // it is what the document has from now on
 }
 
 /// They may have changed since the tab was filled.
@@ -138,7 +141,7 @@ void CDocSettingsDlgTab2::Apply(const Protection& protection) {
     refused_ = false;
 }
 
-void CDocSettingsDlgTab2::ShowFailure() {
+void CDocSettingsDlgTab2::ShowFailure(HRESULT code) {
     if (wrongConfirmation_) {
         MessageBeep(MB_ICONERROR);
         SetFocus(Item(wrongConfirmation_));
@@ -146,7 +149,7 @@ void CDocSettingsDlgTab2::ShowFailure() {
     } else if (refused_) {
         ShowError(Text(QZ_TEXT_OWNER_PASSWORD_NEEDED));
     } else {
-        CDocSettingsDlgTab::ShowFailure();
+        CDocSettingsDlgTab::ShowFailure(code);
     }
 }
 

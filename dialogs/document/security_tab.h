@@ -10,7 +10,7 @@ class CDocSettingsDlgTab2 final : public CDocSettingsDlgTab {
   public:
     CDocSettingsDlgTab2(const SettingsSource& source, Language language) noexcept;
 
-    void ShowFailure() override;
+    void ShowFailure(HRESULT code) override;
 
   private:
     /// What the four fields of passwords show.

@@ -2,14 +2,12 @@
 
 #include "com/module.h"
 #include "dialogs/common/label_mnemonics.h"
-#include "dialogs/common/setting_controls.h"
+#include "dialogs/common/record_dialog.h"
 #include "dialogs/docx/docx_fields.h"
 #include "properties/editors/choose_file.h"
-#include "res/dialog_ids.h"
 #include "res/strings.h"
 #include "res/text_ids.h"
 #include "ui/accessible_name.h"
-#include "ui/dialog.h"
 #include "ui/text_edit.h"
 
 #include <commdlg.h>
@@ -56,18 +54,18 @@ struct Row {
     HWND button;
 };
 
-class DocxDialog final : public Dialog {
+class DocxDialog final : public RecordDialog {
   public:
     DocxDialog(zrDocxSettings& record, Language language)
-        : Dialog(QZ_DIALOG_DOCX, language), record_(record), controls_(UserLengthManner(language)) {}
+        : RecordDialog(QZ_DIALOG_DOCX, language), record_(record) {}
 
   private:
     // Opening
 
     void OnInit() override {
         MakeRows();
-        for (const Row& row : rows_) controls_.Bind(*row.field, row.entry);
-        controls_.Show(record_);
+        for (const Row& row : rows_) Controls().Bind(*row.field, row.entry);
+        Controls().Show(record_);
         for (const DocxPage& page : DocxPages()) {
             const std::wstring title = LoadText(TextLanguage(), page.titleId);
             SendItem(QZ_DOCX_SECTIONS, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(title.c_str()));
@@ -144,22 +142,10 @@ class DocxDialog final : public Dialog {
 
     // Using
 
-    bool OnCommand(int id, int notification) override {
-        switch (id) {
-            case IDOK:
-                Finish();
-                return true;
-            case IDCANCEL:
-                EndModal(IDCANCEL);
-                return true;
-            case QZ_SETTINGS_DEFAULTS:
-                ShowDefaults();
-                return true;
-            case QZ_DOCX_SECTIONS:
-                if (notification == LBN_SELCHANGE) ShowPage(ChosenPage());
-                return true;
-            default:
-                break;
+    bool OnNotification(int id, int notification) override {
+        if (id == QZ_DOCX_SECTIONS) {
+            if (notification == LBN_SELCHANGE) ShowPage(ChosenPage());
+            return true;
         }
         if (notification != BN_CLICKED) return false;
         const auto count = static_cast<int>(rows_.size());
@@ -184,9 +170,9 @@ class DocxDialog final : public Dialog {
         }
     }
 
-    void ShowDefaults() {
+    void ShowDefaults() override {
         zrDocxSettings defaults;
-        controls_.Show(defaults);
+        Controls().Show(defaults);
         EnableRows();
     }
 
@@ -203,17 +189,17 @@ class DocxDialog final : public Dialog {
     bool HasMeaning(const SettingField& field) const noexcept {
         const SettingField* const gate = DocxGateOf(field);
         if (!gate) return true;
-        const SettingControls::Bound* const check = controls_.Find(gate->key);
+        const SettingControls::Bound* const check = Controls().Find(gate->key);
         return check && SendMessageW(check->control, BM_GETCHECK, 0, 0) == BST_CHECKED && HasMeaning(*gate);
     }
 
-    void Finish() {
-        const SettingControls::Bound* const refused = controls_.FirstRefused();
+    void Finish() override {
+        const SettingControls::Bound* const refused = Controls().FirstRefused();
         if (refused) {
             ShowPage(DocxPageOf(*refused->field));
-            return controls_.Tell(Handle(), TextLanguage(), *refused);
+            return Controls().Tell(Handle(), TextLanguage(), *refused);
         }
-        controls_.Write(record_);
+        Controls().Write(record_);
         EndModal(IDOK);
     }
 
@@ -230,8 +216,13 @@ class DocxDialog final : public Dialog {
 
     void Choose(const Row& row) {
         if (row.field->kind == FieldKind::Colour) return ChooseColour(row.entry);
-        const std::optional<std::wstring> path = ChooseFile(
-            Handle(), {WindowText(Handle()), std::wstring(L"*.*\0*.*\0", 8), WindowText(row.entry)});
+        const std::wstring title = WindowText(Handle());
+        std::optional<std::wstring> path;
+        const HRESULT asked = Guard(IID_NULL, [&] {
+            path = ChooseFile(Handle(), {title, std::wstring(L"*.*\0*.*\0", 8), WindowText(row.entry)});
+        });
+        if (FAILED(asked))
+            MessageBoxW(Handle(), TakeErrorText(asked).c_str(), title.c_str(), MB_OK | MB_ICONWARNING);
         if (path && IsWindow(row.entry)) SetWindowTextW(row.entry, path->c_str());
     }
 
@@ -249,7 +240,6 @@ class DocxDialog final : public Dialog {
     }
 
     zrDocxSettings& record_;
-    SettingControls controls_;
     std::vector<Row> rows_;  ///< In the order of the fields.
     HWND last_ = nullptr;    ///< In the order of the Tab key, of those made so far.
     std::array<COLORREF, 16> customColours_{};

@@ -21,7 +21,7 @@ constexpr int contentLines = 6;
 class SheetPainter {
   public:
     SheetPainter(HDC dc, const Rect& sheet, int dpi, const NUpPicture& picture)
-        : dc_(dc), place_(sheet), pixel_(std::max(dpi / 96, 1)), picture_(picture) {}
+        : dc_(dc), place_(sheet), pixel_(std::max(MulDiv(dpi, 1, 96), 1)), picture_(picture) {}
 
     void Paint() const {
         FillSolid(dc_, ToPlatform(place_), paperColour);
@@ -36,8 +36,11 @@ class SheetPainter {
 
     void Frame(const Rect& bounds) const {
         const Brush brush = MakeBrush(lineColour);
-        const RECT frame = ToPlatform(bounds);
-        FrameRect(dc_, &frame, brush.Get());
+        RECT frame = ToPlatform(bounds);
+        for (int line = 0; line < pixel_ && !IsRectEmpty(&frame); ++line) {
+            FrameRect(dc_, &frame, brush.Get());
+            InflateRect(&frame, -1, -1);
+        }
     }
 
     /// For the smallest cell, so that all numbers are of one size. None when they could not be read.

@@ -1,13 +1,11 @@
 #include "dialogs/nup/nup_settings_dlg.h"
 
 #include "dialogs/common/label_mnemonics.h"
-#include "dialogs/common/setting_controls.h"
+#include "dialogs/common/record_dialog.h"
 #include "dialogs/nup/nup_papers.h"
 #include "dialogs/nup/nup_picture.h"
-#include "res/dialog_ids.h"
 #include "res/strings.h"
 #include "res/text_ids.h"
-#include "ui/dialog.h"
 #include "ui/gdi.h"
 #include "ui/platform_geometry.h"
 #include "ui/screen.h"
@@ -90,13 +88,10 @@ constexpr int labels[] = {QZ_NUP_KEEP_ORIGINAL, QZ_NUP_PAPER_LABEL,   QZ_NUP_WID
 
 constexpr LPARAM customPaper = -1;
 
-class NUpDialog final : public Dialog {
+class NUpDialog final : public RecordDialog {
   public:
     NUpDialog(zrNUpSettings& record, NUpMode mode, Language language)
-        : Dialog(QZ_DIALOG_NUP, language),
-          record_(record),
-          mode_(mode),
-          controls_(UserLengthManner(language)) {}
+        : RecordDialog(QZ_DIALOG_NUP, language), record_(record), mode_(mode) {}
 
   private:
     bool Offers(Part part) const noexcept {
@@ -108,7 +103,7 @@ class NUpDialog final : public Dialog {
 
     void OnInit() override {
         for (const NUpField& each : fields) {
-            if (Offers(each.part)) controls_.Bind(each.field, Item(each.control));
+            if (Offers(each.part)) Controls().Bind(each.field, Item(each.control));
         }
         SendItem(QZ_NUP_ROWS_SPIN, UDM_SETRANGE32, 1, mostNUpRows);
         SendItem(QZ_NUP_COLUMNS_SPIN, UDM_SETRANGE32, 1, mostNUpRows);
@@ -153,7 +148,7 @@ class NUpDialog final : public Dialog {
     }
 
     void Show(zrNUpSettings& record) {
-        controls_.Show(record);
+        Controls().Show(record);
         for (const NUpChoice& choice : choices) {
             const bool chosen = record.GetInt(choice.key) == choice.value;
             SendItem(choice.control, BM_SETCHECK, chosen ? BST_CHECKED : BST_UNCHECKED);
@@ -187,29 +182,14 @@ class NUpDialog final : public Dialog {
 
     // Using
 
-    bool OnCommand(int id, int notification) override {
-        switch (id) {
-            case IDOK:
-                Finish();
-                return true;
-            case IDCANCEL:
-                EndModal(IDCANCEL);
-                return true;
-            case QZ_SETTINGS_DEFAULTS:
-                ShowDefaults();
-                return true;
-            case QZ_NUP_PAPER:
-                if (notification == CBN_SELCHANGE) OnPaperChosen();
-                break;
-            default:
-                break;
-        }
+    bool OnNotification(int id, int notification) override {
+        if (id == QZ_NUP_PAPER && notification == CBN_SELCHANGE) OnPaperChosen();
         if (notification == BN_CLICKED || notification == EN_CHANGE || notification == CBN_SELCHANGE)
             OnChange();
         return true;
     }
 
-    void ShowDefaults() {
+    void ShowDefaults() override {
         zrNUpSettings defaults;
         Show(defaults);
     }
@@ -224,8 +204,8 @@ class NUpDialog final : public Dialog {
     void OnPaperChosen() {
         const std::int32_t paper = ChosenPaper();
         if (paper < 0) return;
-        controls_.Show(width, nupPapers[paper].size.width);
-        controls_.Show(length, nupPapers[paper].size.height);
+        Controls().Show(width, nupPapers[paper].size.width);
+        Controls().Show(length, nupPapers[paper].size.height);
     }
 
     bool Checked(int id) const noexcept { return SendItem(id, BM_GETCHECK) == BST_CHECKED; }
@@ -244,14 +224,17 @@ class NUpDialog final : public Dialog {
         InvalidateRect(Item(QZ_NUP_PICTURE), nullptr, FALSE);
     }
 
-    void Finish() {
-        if (const SettingControls::Bound* const refused = controls_.FirstRefused()) {
-            return controls_.Tell(Handle(), TextLanguage(), *refused);
+    void Finish() override {
+        if (const SettingControls::Bound* const refused = Controls().FirstRefused()) {
+            return Controls().Tell(Handle(), TextLanguage(), *refused);
         }
         if (!SheetHasRoom()) {
+            if (const SettingControls::Bound* const tooMany = CountOutOfRange()) {
+                return Controls().Tell(Handle(), TextLanguage(), *tooMany);
+            }
             return TellAboutEntry(Handle(), LoadText(TextLanguage(), QZ_TEXT_NUP_NO_ROOM), Item(QZ_NUP_GAP));
         }
-        controls_.Write(record_);
+        Controls().Write(record_);
         for (const NUpChoice& choice : choices) {
             if (Offers(choice.part) && Checked(choice.control)) WriteNumber(choice.key, choice.value);
         }
@@ -277,33 +260,45 @@ class NUpDialog final : public Dialog {
     /// A number as it stands in the dialog, or in the record when it is not offered; nothing when the entry
     /// is refused.
     std::optional<std::int32_t> Number(const wchar_t* key) const {
-        const SettingControls::Bound* const bound = controls_.Find(key);
+        const SettingControls::Bound* const bound = Controls().Find(key);
         if (!bound) return record_.GetInt(key);
-        const std::optional<FieldValue> value = controls_.Value(*bound);
+        const std::optional<FieldValue> value = Controls().Value(*bound);
         return value ? std::optional(std::get<std::int32_t>(*value)) : std::nullopt;
     }
 
-    /// What a button that is set stands for.
+    /// What a button that is set stands for, or what the record has when the buttons are not offered; -1:
+    /// none.
     std::int32_t Choice(const wchar_t* key) const {
-        const auto* const chosen = std::ranges::find_if(choices, [&](const NUpChoice& each) {
-            return std::wstring_view(each.key) == key && Checked(each.control);
-        });
-        return chosen == std::end(choices) ? -1 : chosen->value;
+        for (const NUpChoice& each : choices) {
+            if (std::wstring_view(each.key) != key) continue;
+            if (!Offers(each.part)) return record_.GetInt(key).value_or(-1);
+            if (Checked(each.control)) return each.value;
+        }
+        return -1;
+    }
+
+    /// Nothing when an entry is refused; sheets of the pages' own size are drawn as upright paper.
+    std::optional<NUpSheet> SheetPaper() const {
+        NUpSheet sheet;
+        if (Checked(QZ_NUP_KEEP_ORIGINAL)) return sheet;
+        const auto wide = Number(width), high = Number(length);
+        if (!wide || !high) return std::nullopt;
+        sheet.paper = {*wide, *high};
+        sheet.landscape = Choice(orientation) == landscape;
+        return sheet;
     }
 
     std::optional<NUpSheet> Sheet() const {
-        const auto wide = Number(width), high = Number(length), down = Number(rows), across = Number(columns),
-                   between = Number(gap);
-        if (!wide || !high || !down || !across || !between) return std::nullopt;
-        NUpSheet sheet;
-        sheet.paper = {*wide, *high};
-        sheet.landscape = Choice(orientation) == landscape;
+        std::optional<NUpSheet> paper = SheetPaper();
+        const auto down = Number(rows), across = Number(columns), between = Number(gap);
+        if (!paper || !down || !across || !between) return std::nullopt;
+        NUpSheet& sheet = *paper;
         sheet.rows = *down;
         sheet.columns = *across;
         sheet.gap = *between;
         sheet.columnsFirst = Checked(QZ_NUP_COLUMNS_FIRST);
         sheet.rightToLeft = Checked(QZ_NUP_RIGHT_TO_LEFT);
-        return sheet;
+        return paper;
     }
 
     /// True also for a sheet that the user left as it was, and for one that only the printer or the pages
@@ -312,6 +307,15 @@ class NUpDialog final : public Dialog {
         const std::optional<NUpSheet> sheet = Sheet();
         const bool known = Offers(Part::Paper) && !Checked(QZ_NUP_KEEP_ORIGINAL);
         return !known || sheet == opened_ || !sheet || LayOut(*sheet);
+    }
+
+    /// A number of rows or columns that the record had, and that no sheet can have; null when there is none.
+    const SettingControls::Bound* CountOutOfRange() const {
+        for (const wchar_t* const key : {rows, columns}) {
+            const std::int32_t count = Number(key).value_or(0);
+            if (count < 1 || count > mostNUpRows) return Controls().Find(key);
+        }
+        return nullptr;
     }
 
     std::optional<NUpPicture> Picture() const {
@@ -347,7 +351,6 @@ class NUpDialog final : public Dialog {
 
     zrNUpSettings& record_;
     NUpMode mode_;
-    SettingControls controls_;
     std::optional<NUpSheet> opened_;  ///< As the record has it.
 };
 

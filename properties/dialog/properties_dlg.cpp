@@ -1,22 +1,9 @@
 #include "properties/dialog/properties_dlg.h"
 
-#include "host/bstr.h"
+#include "host/host_language.h"
 #include "ui/parent_window.h"
 
 namespace qz {
-
-namespace {
-
-/// The language of a host that may be none.
-Language LanguageOf(IDispatch* host) {
-    ComPtr<IVandraX> vandra;
-    unsigned short language = 0;
-    const bool told = host && SUCCEEDED(host->QueryInterface(IID_PPV_ARGS(&vandra))) &&
-                      SUCCEEDED(vandra->GetLanguageId(reinterpret_cast<short*>(&language)));
-    return LanguageFromId(told ? language : 0);
-}
-
-}  // namespace
 
 void PropertiesDlg::FinalRelease() noexcept {
     if (window_) window_->Destroy();

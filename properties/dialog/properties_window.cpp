@@ -94,8 +94,9 @@ void PropertiesWindow::SetFrame() const noexcept {
 
 void PropertiesWindow::LoadPins() {
     const int side = 16 * WindowDpi(Handle()) / 96;
-    unpinned_ = LoadButtonPicture(QZ_BITMAP_UNPINNED, side);
-    pinned_ = LoadButtonPicture(QZ_BITMAP_PINNED, side);
+    const auto load = modal_ ? LoadDisabledPicture : LoadButtonPicture;
+    unpinned_ = load(QZ_BITMAP_UNPINNED, side);
+    pinned_ = load(QZ_BITMAP_PINNED, side);
     SetAccessibleName(Item(QZ_PROPERTIES_PIN), LoadText(TextLanguage(), QZ_TEXT_KEEP_OPEN).c_str());
     SetAccessibleName(Item(QZ_PROPERTIES_OBJECTS), LoadText(TextLanguage(), QZ_TEXT_OBJECTS).c_str());
 }
@@ -282,7 +283,7 @@ void PropertiesWindow::End(INT_PTR result) noexcept {
 void PropertiesWindow::TellFailure(HRESULT code) {
     ++childDialogs_;
     const std::wstring caption = LoadText(TextLanguage(), QZ_TEXT_PROPERTIES);
-    MessageBoxW(Handle(), DescribeError(code).c_str(), caption.c_str(), MB_OK | MB_ICONWARNING);
+    MessageBoxW(Handle(), TakeErrorText(code).c_str(), caption.c_str(), MB_OK | MB_ICONWARNING);
     --childDialogs_;
 }
 

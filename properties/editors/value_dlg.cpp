@@ -10,16 +10,6 @@ namespace {
 constexpr UINT_PTR writeTimer = 100;
 constexpr UINT writeDelay = 2000;  // milliseconds
 
-/// The text of the error that the thread has just met, as the host told it.
-std::wstring CurrentErrorText(HRESULT code) {
-    ComPtr<IErrorInfo> info;
-    BSTR text = nullptr;
-    if (GetErrorInfo(0, &info) == S_OK) info->GetDescription(&text);
-    std::wstring description = text ? std::wstring(text, SysStringLen(text)) : DescribeError(code);
-    SysFreeString(text);
-    return description;
-}
-
 /// The control is a combo box, or the text field in one, whose list is open.
 bool IsDropped(HWND control) noexcept {
     return SendMessageW(control, CB_GETDROPPEDSTATE, 0, 0) != 0 ||
@@ -92,7 +82,7 @@ void CValueDlg::WriteSoon() {
 
 bool CValueDlg::Attempt(const std::function<void()>& action) {
     const HRESULT outcome = Guard(IID_NULL, action);
-    if (FAILED(outcome)) TellFailure(CurrentErrorText(outcome));
+    if (FAILED(outcome)) TellFailure(TakeErrorText(outcome));
     return SUCCEEDED(outcome);
 }
 
@@ -109,7 +99,7 @@ bool CValueDlg::Write(Writing&& writing) {
     written_ = true;  // also when it fails, as nothing is known then
     const HRESULT outcome = Guard(IID_NULL, std::forward<Writing>(writing));
     writing_ = false;
-    if (FAILED(outcome)) TellFailure(CurrentErrorText(outcome));
+    if (FAILED(outcome)) TellFailure(TakeErrorText(outcome));
     return SUCCEEDED(outcome);
 }
 

@@ -35,6 +35,7 @@ enum class LateBound {
     HostCreateObject,
     HostSelectObjects,
     HostSelectedObjects,
+    HostSetScopedAttribute,
     HostSettingsKeyPath,
     StreamLoad,
     StreamSave,
@@ -47,8 +48,8 @@ constexpr std::array lateBoundNames = {
     L"Attributes.Item",   L"Attributes._NewEnum", L"Attribute.Reading", L"Attribute.Value",
     L"Bookmark.Count",    L"Bookmark.Item",       L"Bookmark._NewEnum", L"Bookmark.Title",
     L"Bookmark.Activate", L"Bookmark.Edit",       L"Encrypt",           L"Encrypt128",
-    L"CreateObject",      L"SelectObjects",       L"SelectedObjects",   L"SettingsKeyPath",
-    L"Stream.Load",       L"Stream.Save"};
+    L"CreateObject",      L"SelectObjects",       L"SelectedObjects",   L"SetScopedAttribute",
+    L"SettingsKeyPath",   L"Stream.Load",         L"Stream.Save"};
 static_assert(lateBoundNames.size() == static_cast<size_t>(LateBound::Last) + 1);
 
 /// One number for all of them: the places first.

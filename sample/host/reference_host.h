@@ -66,6 +66,7 @@ class MemoryHost
     STDMETHODIMP CreateObject(long type, BSTR name, IDispatch** object) override;
     STDMETHODIMP SelectObjects(long all) override;
     STDMETHODIMP get_SelectedObjects(VARIANT* objects) override;
+    STDMETHODIMP SetScopedAttribute(BSTR path, BSTR attribute, VARIANT value, long scope) override;
     STDMETHODIMP get_SettingsKeyPath(BSTR* path) override;
     STDMETHODIMP put_SettingsKeyPath(BSTR path) override;
 

@@ -68,6 +68,27 @@ STDMETHODIMP MemoryHost::get_SelectedObjects(VARIANT* objects) {
     });
 }
 
+STDMETHODIMP MemoryHost::SetScopedAttribute(BSTR path, BSTR attribute, VARIANT value, long scope) {
+    return Call(
+        LateBound::HostSetScopedAttribute,
+        [&] {
+            Document& document = Model().Doc();
+            if (Require(path).id != document.Settings())
+                Throw(E_INVALIDARG, L"Only \"Document\" has a page setup");
+            if (scope < 0 || scope > 2) Throw(E_INVALIDARG, L"There is no such scope");
+            const int32_t current = document.pages.NumberOf(Model().CurrentPage().id);
+            const int32_t first = scope == 0 ? 1 : current;
+            const int32_t last = scope == 1 ? current : document.pages.Count();
+            const Value written = ValueOf(value, document);
+            for (int32_t number = first; number <= last; ++number) {
+                const ObjectKey page{ObjectKey::Kind::Page, document.pages.At(number).id};
+                Model().Write(page, TextView(attribute), written);
+            }
+            session_->Settle();
+        },
+        path, attribute, scope);
+}
+
 STDMETHODIMP MemoryHost::get_SettingsKeyPath(BSTR* path) {
     return Call(LateBound::HostSettingsKeyPath, [&] {
         RequirePointer(path);

@@ -125,6 +125,26 @@ TEST_F(DispatcherTest, DialogsAreInTheLanguageOfTheHost) {
     EXPECT_STREQ(caption, L"Mehrfachseiten-Einstellungen");
 }
 
+TEST_F(DispatcherTest, DocumentSettingsNeedAHost) {
+    EXPECT_EQ(dialogs->DoDialog(qzDocumentSettings), E_POINTER);
+    EXPECT_EQ(dialogs->put_PDF(host.Get()), S_OK);
+    _variant_t out(5L);
+    bool shown = false;
+    const DuringModal during([&] {
+        HWND window = nullptr;
+        while ((window = FindWindowExW(nullptr, window, L"#32770", nullptr)) &&
+               !GetDlgItem(window, QZ_DOCUMENT_TABS)) {
+        }
+        shown = window != nullptr;
+        SendMessageW(window, WM_COMMAND, IDCANCEL, 0);
+    });
+    long handle = 7;
+    EXPECT_EQ(dialogs->ShowWindow(qzDocumentSettings, &handle, nullptr, &out), S_OK);
+    EXPECT_TRUE(shown);
+    EXPECT_EQ(static_cast<long>(out), 5);
+    EXPECT_EQ(handle, 7);
+}
+
 TEST_F(DispatcherTest, DialogsOfRecordsOpenThoughTheHostFails) {
     EXPECT_EQ(host->put_SettingsKeyPath(_bstr_t(optionsKey)), S_OK);
     for (const wchar_t* operation : {L"GetLanguageId", L"SettingsKeyPath"}) {

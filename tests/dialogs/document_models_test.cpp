@@ -116,7 +116,9 @@ TEST(PageSetup, AChosenPaperGivesItsSize) {
     EXPECT_EQ(setup.Written(now)[WidthPlace], 11520);
     // The paper that it had, chosen on purpose.
     PageSetup again(twips, ReadA4());
+    EXPECT_FALSE(again.Edited(again.Shown()));
     again.ChoosePaper(9);
+    EXPECT_TRUE(again.Edited(again.Shown()));
     EXPECT_EQ(again.Written([&] {
         SetupEntries entries = again.Shown();
         entries.paper = 9;

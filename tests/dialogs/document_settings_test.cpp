@@ -2,6 +2,7 @@
 #include "tests/dialogs/document_settings_fixture.h"
 #include "tests/support/dialog_fit.h"
 #include "tests/support/event_recorder.h"
+#include "tests/support/held_keys.h"
 
 #include <tuple>
 
@@ -81,6 +82,7 @@ TEST_F(DocumentDialogTest, NeitherCancelNorOkWithoutEditsChangesAnything) {
     Protect(std::wstring(2000, L'p').c_str(), L"use", -60);
     const std::vector<_variant_t> before = Everything();
     const long events = EventCount();
+    int widths = 0;
     EXPECT_EQ(host->ClearLog(), S_OK);
     EXPECT_EQ(host->put_LogEnabled(1), S_OK);
     Run([] {
@@ -90,7 +92,13 @@ TEST_F(DocumentDialogTest, NeitherCancelNorOkWithoutEditsChangesAnything) {
     });
     for (const std::wstring& line : LogLines(host.Get())) EXPECT_EQ(line.find(L"edited"), line.npos);
     EXPECT_EQ(Everything(), before);
+    EXPECT_EQ(host->ClearLog(), S_OK);
     Run([] { Press(IDOK); });
+    // Only read: written, it would go to all pages.
+    for (const std::wstring& line : LogLines(host.Get())) {
+        widths += line.find(L"Width") != line.npos;
+    }
+    EXPECT_EQ(widths, 1);
     EXPECT_EQ(Everything(), before);
     EXPECT_EQ(EventCount(), events);
     EXPECT_EQ(EncryptCalls(), 0);
@@ -312,6 +320,26 @@ TEST_F(DocumentDialogTest, TabGoesFromFieldToField) {
                                              QZ_INFO_KEYWORDS, QZ_INFO_PRODUCER, QZ_INFO_FURTHER, IDOK,
                                              IDCANCEL, QZ_DOCUMENT_TABS, QZ_INFO_TITLE}));
         EXPECT_EQ(Shown(QZ_INFO_TITLE), L"title");
+    });
+}
+
+TEST_F(DocumentDialogTest, ControlWithTabGoesFromTabToTab) {
+    const auto press = [](WPARAM key, std::initializer_list<int> held) {
+        const HeldKeys keys(held);
+        MSG message{GetFocus(), WM_KEYDOWN, key, 0, 0, {}};
+        EXPECT_TRUE(IsDialogMessageW(Window(), &message));
+        return ShownTab();
+    };
+    Run([&] {
+        SetFocus(Item(QZ_INFO_TITLE));
+        EXPECT_EQ(press(VK_TAB, {VK_CONTROL}), 1);
+        EXPECT_EQ(GetFocus(), Item(QZ_SECURITY_LEVEL));
+        EXPECT_EQ(press(VK_NEXT, {VK_CONTROL}), 2);
+        EXPECT_EQ(press(VK_TAB, {VK_CONTROL, VK_SHIFT}), 1);
+        SetFocus(Item(IDOK));
+        EXPECT_EQ(press(VK_PRIOR, {VK_CONTROL}), 0);
+        EXPECT_EQ(press(VK_PRIOR, {VK_CONTROL}), 3);
+        EXPECT_EQ(GetFocus(), Item(IDOK));
     });
 }
 

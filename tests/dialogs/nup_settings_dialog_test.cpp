@@ -134,15 +134,11 @@ TEST_F(NUpDialogTest, ModeSelectsWhatIsOffered) {
     byReference.piVal = &number;
     const _variant_t missing(DISP_E_PARAMNOTFOUND, VT_ERROR);
     const Offer offers[] = {
-        {_variant_t(short{0}), false, true},
-        {_variant_t(short{1}), true, false},
-        {_variant_t(7L), true, true},
-        {_variant_t(L"0"), false, true},
-        {byReference, true, false},
-        {_variant_t(), true, true},
-        {missing, true, true},
-        {_variant_t(L"none"), true, true},
-        {_variant_t(1e30), true, true},
+        {_variant_t(short{0}), false, true}, {_variant_t(short{1}), true, false},
+        {_variant_t(7L), true, true},        {_variant_t(65536L), false, true},  // the low 16 bits count
+        {_variant_t(L"0"), false, true},     {byReference, true, false},
+        {_variant_t(), true, true},          {missing, true, true},
+        {_variant_t(L"none"), true, true},   {_variant_t(1e30), true, true},
     };
     for (const Offer& offer : offers) {
         bool paper = false, scale = false, pages = false;

@@ -73,6 +73,25 @@ TEST_F(PageSetupTest, ListsEveryPaperAndBin) {
     });
 }
 
+TEST_F(PageSetupTest, GoesToTheChosenPagesWhichAreRemembered) {
+    EXPECT_EQ(host->SetCurrentPage(2), S_OK);
+    const auto setWidth = [this](const wchar_t* width, int scopeBefore, int scope) {
+        Run([&] {
+            EXPECT_TRUE(Ticked(scopeBefore));
+            Press(scope);
+            Enter(QZ_SETUP_WIDTH, width);
+            Press(IDOK);
+        });
+        return std::vector{Number(L"Width", L"Pages[1]"), Number(L"Width", L"Pages[2]"),
+                           Number(L"Width", L"Pages[3]")};
+    };
+    EXPECT_EQ(setWidth(L"3000", QZ_SETUP_SCOPE_ALL, QZ_SETUP_SCOPE_CURRENT),
+              (std::vector{12240L, 3000L, 12240L}));
+    EXPECT_EQ(setWidth(L"4000", QZ_SETUP_SCOPE_CURRENT, QZ_SETUP_SCOPE_FROM_HERE),
+              (std::vector{12240L, 4000L, 4000L}));
+    EXPECT_EQ(setWidth(L"5000", QZ_SETUP_SCOPE_FROM_HERE, QZ_SETUP_SCOPE_ALL), (std::vector(3, 5000L)));
+}
+
 TEST_F(PageSetupTest, AFailedWriteShowsTheTabAndKeepsTheEntries) {
     Run([&] {
         Enter(QZ_SETUP_WIDTH, L"-5");

@@ -2,6 +2,7 @@
 #include "tests/properties/inspector_fixture.h"
 #include "tests/properties/object_chain.h"
 #include "tests/support/during_modal.h"
+#include "tests/support/held_keys.h"
 
 namespace qz {
 namespace {
@@ -49,12 +50,8 @@ class ActionsEditor : public InspectorTest {
         return enabled;
     }
     void PressControl(WPARAM key) const {
-        BYTE before[256], keys[256] = {};
-        GetKeyboardState(before);
-        keys[VK_CONTROL] = 0x80;
-        SetKeyboardState(keys);
+        const HeldKeys held{VK_CONTROL};
         Press(List(), key);
-        SetKeyboardState(before);
     }
     bool Confirms() const { return static_cast<bool>(Value(L"Document", L"AlwaysConfirmAttributeChanges")); }
 

@@ -1,3 +1,4 @@
+#include "tests/support/held_keys.h"
 #include "tests/ui/test_control.h"
 
 #include <gtest/gtest.h>
@@ -47,13 +48,8 @@ TEST_F(ControlKeyboard, OtherKeysAreOfferedToTheContainer) {
 }
 
 TEST_F(ControlKeyboard, TellsTheContainerTheModifiers) {
-    BYTE keys[256] = {};
-    keys[VK_SHIFT] = keys[VK_MENU] = 0x80;
-    BYTE before[256];
-    GetKeyboardState(before);
-    SetKeyboardState(keys);
+    const HeldKeys held{VK_SHIFT, VK_MENU};
     Offer(WM_SYSKEYDOWN, VK_F1, window);
-    SetKeyboardState(before);
     EXPECT_EQ(container.site->lastModifiers, 5u);
 }
 
