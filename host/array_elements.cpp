@@ -23,12 +23,15 @@ std::vector<_variant_t> ElementsOf(const VARIANT& value) {
     SAFEARRAY* const array = RequireArray(value);
     VARTYPE type = VT_EMPTY;
     ThrowIfFailed(SafeArrayGetVartype(array, &type));
+    if (type == VT_RECORD) Throw(DISP_E_TYPEMISMATCH, L"A value of the host is an array of records");
     std::vector<_variant_t> elements;
     const LONG first = array->rgsabound[0].lLbound;
     for (ULONG i = 0; i < array->rgsabound[0].cElements; ++i) {
         LONG index = first + static_cast<LONG>(i);
         _variant_t element;
-        void* const slot = type == VT_VARIANT ? static_cast<void*>(&element) : &element.llVal;
+        // These two take the whole of a VARIANT; a decimal leaves its type's place alone.
+        const bool whole = type == VT_VARIANT || type == VT_DECIMAL;
+        void* const slot = whole ? static_cast<void*>(&element) : &element.llVal;
         ThrowIfFailed(SafeArrayGetElement(array, &index, slot));
         if (type != VT_VARIANT) element.vt = type;
         elements.push_back(std::move(element));

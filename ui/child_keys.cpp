@@ -21,8 +21,9 @@ class ChildKeys::Control final : public ChildWindow {
   private:
     std::optional<LRESULT> OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override {
         if (message == WM_GETDLGCODE) return DialogCode(wParam, lParam);
-        if (IsKeyPress(message) && listener_.WantsKey(Handle(), message, wParam)) {
-            dropsCharacter_ = true;
+        if (IsKeyPress(message)) {
+            dropsCharacter_ = listener_.WantsKey(Handle(), message, wParam);
+            if (!dropsCharacter_) return std::nullopt;
             listener_.OnKey(Handle(), message, wParam);
             return 0;
         }

@@ -1,5 +1,7 @@
 #include "ui/dialog.h"
 
+#include "ui/accessible_name.h"
+
 #include "res/strings.h"
 #include "ui/child_window.h"
 #include "ui/window.h"
@@ -97,6 +99,16 @@ void Dialog::SetItemText(int id, const std::wstring& text) const noexcept {
     SetDlgItemTextW(handle_, id, text.c_str());
 }
 
+void Dialog::NameControl(HWND control, const std::wstring& name) {
+    named_.push_back(control);
+    SetAccessibleName(control, name.c_str());
+}
+
+void Dialog::ForgetNames() noexcept {
+    for (const HWND control : named_) SetAccessibleName(control, L"");
+    named_.clear();
+}
+
 void Dialog::PlaceItem(int id, const RECT& bounds) const noexcept {
     const HWND item = Item(id);
     ShowWindow(item, IsRectEmpty(&bounds) ? SW_HIDE : SW_SHOWNA);
@@ -140,6 +152,7 @@ INT_PTR Dialog::Dispatch(UINT message, WPARAM wParam, LPARAM lParam) noexcept {
         answer = result.value_or(0);
     });
     if (FAILED(outcome)) OnMessageFailed(outcome);
+    if (message == WM_DESTROY) ForgetNames();
     if (message == WM_NCDESTROY) {
         SetWindowLongPtrW(handle, DWLP_USER, 0);
         handle_ = nullptr;

@@ -10,6 +10,7 @@
 #include <optional>
 #include <string>
 #include <utility>
+#include <vector>
 
 namespace qz {
 
@@ -62,6 +63,8 @@ class Dialog : public std::enable_shared_from_this<Dialog> {
     }
     std::wstring ItemText(int id) const;
     void SetItemText(int id, const std::wstring& text) const noexcept;
+    /// Names a control within the dialog for assistive tools, as long as the dialog is there.
+    void NameControl(HWND control, const std::wstring& name);
     void EnableItem(int id, bool enabled) const noexcept { EnableWindow(Item(id), enabled); }
     /// Moves a control, in client pixels of the dialog; one without room is hidden.
     void PlaceItem(int id, const RECT& bounds) const noexcept;
@@ -76,10 +79,12 @@ class Dialog : public std::enable_shared_from_this<Dialog> {
     INT_PTR Initialize() noexcept;
     std::optional<LRESULT> Handle(UINT message, WPARAM wParam, LPARAM lParam);
     INT_PTR Answer(UINT message, LRESULT result) const noexcept;
+    void ForgetNames() noexcept;
 
     HWND handle_ = nullptr;
     unsigned templateId_;
     Language language_;
+    std::vector<HWND> named_;  ///< For assistive tools.
     HRESULT initFailure_ = S_OK;
     std::wstring initFailureText_;
 };

@@ -7,7 +7,6 @@
 #include "properties/editors/choose_file.h"
 #include "res/strings.h"
 #include "res/text_ids.h"
-#include "ui/accessible_name.h"
 #include "ui/text_edit.h"
 
 #include <commdlg.h>
@@ -107,7 +106,7 @@ class DocxDialog final : public RecordDialog {
             left += widths.entry + between;
             row.button = Make(L"BUTTON", L"...", BS_PUSHBUTTON | WS_TABSTOP, QZ_DOCX_CHOOSERS + index,
                               {left, top, left + widths.button, top + entryHeight});
-            SetAccessibleName(row.button, LoadText(TextLanguage(), QZ_TEXT_DOCX_CHOOSE).c_str());
+            NameControl(row.button, LoadText(TextLanguage(), QZ_TEXT_DOCX_CHOOSE));
         }
         rows_.push_back(row);
     }
@@ -201,15 +200,6 @@ class DocxDialog final : public RecordDialog {
         }
         Controls().Write(record_);
         EndModal(IDOK);
-    }
-
-    std::optional<LRESULT> OnMessage(UINT message, WPARAM, LPARAM) override {
-        if (message == WM_DESTROY) {
-            for (const Row& row : rows_) {
-                if (row.button) SetAccessibleName(row.button, L"");
-            }
-        }
-        return std::nullopt;
     }
 
     // Choosing

@@ -6,7 +6,6 @@
 #include "res/dialog_ids.h"
 #include "res/strings.h"
 #include "res/text_ids.h"
-#include "ui/accessible_name.h"
 #include "ui/button_picture.h"
 #include "ui/platform_geometry.h"
 #include "ui/screen.h"
@@ -97,8 +96,8 @@ void PropertiesWindow::LoadPins() {
     const auto load = modal_ ? LoadDisabledPicture : LoadButtonPicture;
     unpinned_ = load(QZ_BITMAP_UNPINNED, side);
     pinned_ = load(QZ_BITMAP_PINNED, side);
-    SetAccessibleName(Item(QZ_PROPERTIES_PIN), LoadText(TextLanguage(), QZ_TEXT_KEEP_OPEN).c_str());
-    SetAccessibleName(Item(QZ_PROPERTIES_OBJECTS), LoadText(TextLanguage(), QZ_TEXT_OBJECTS).c_str());
+    NameControl(Item(QZ_PROPERTIES_PIN), LoadText(TextLanguage(), QZ_TEXT_KEEP_OPEN));
+    NameControl(Item(QZ_PROPERTIES_OBJECTS), LoadText(TextLanguage(), QZ_TEXT_OBJECTS));
 }
 
 void PropertiesWindow::ShowPin() const noexcept {

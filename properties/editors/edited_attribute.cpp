@@ -3,7 +3,10 @@
 #include "host/array_elements.h"
 #include "host/attributes.h"
 
+#include "ui/window.h"
+
 #include <algorithm>
+#include <optional>
 
 namespace qz {
 
@@ -93,16 +96,72 @@ void Record(const EditedAttribute& edited, const std::wstring& name, const ComPt
     if (edited.changes) edited.changes->Add({object, name, oldValue});
 }
 
-void RecordOthers(const EditedAttribute& edited, const std::wstring& name, const Targets& targets) {
-    if (!edited.changes) return;
+/// Of the other objects those that have the attribute.
+std::vector<MemberValue> ReadOthers(const EditedAttribute& edited, const std::wstring& name,
+                                    const Targets& targets) {
+    std::vector<MemberValue> values;
     for (const ComPtr<IDispatch>& object : targets.others) {
-        Record(edited, name, object, edited.members->objects.Attribute(object.Get(), name));
+        try {
+            values.push_back({object, edited.members->objects.Attribute(object.Get(), name)});
+        } catch (const ComError& error) {
+            if (!IsUnknownMember(error.code)) throw;
+        }
     }
+    return values;
 }
 
+/// The value is written by now: a failure is no failure to write.
 void ShowChange(const EditedAttribute& edited) {
-    ThrowIfFailed(edited.host->UpdateView(attributesChanged, 1), L"The host does not update its view");
-    edited.members->objects.Refresh(edited.object.Get());
+    const HRESULT outcome = Guard(IID_NULL, [&] {
+        ThrowIfFailed(edited.host->UpdateView(attributesChanged, 1), L"The host does not update its view");
+        edited.members->objects.Refresh(edited.object.Get());
+    });
+    if (FAILED(outcome)) ShowErrorInDebugger();
+}
+
+void WriteAlone(const EditedAttribute& edited, const _variant_t& value) {
+    const DrawnAtOnce drawn(edited.members->objects, edited.object.Get());
+    edited.members->attributes.SetValue(edited.attribute.Get(), value);
+}
+
+void WriteSelection(const EditedAttribute& edited, const std::wstring& name, const _variant_t& value) {
+    SetErrorInfo(0, nullptr);  // so that what is there afterwards is the host's
+    const HRESULT outcome = edited.host->SetSelectionAttribute(Bstr(name).Get(), value, 1);
+    if (FAILED(outcome)) throw ComError(outcome, TakeErrorText(outcome));
+}
+
+/// As far as the host tells: as many objects are, and the inspected one is the current one.
+bool AreStillSelected(const EditedAttribute& edited, long count) {
+    if (count == 0 || SelectionCount(edited.host.Get()) != count) return false;
+    _variant_t current;
+    if (FAILED(edited.host->GetCurrentObject(&current))) return false;
+    const ComPtr<IDispatch> object = ObjectOf(current);
+    HostObjects& objects = edited.members->objects;
+    return object && objects.Path(object.Get()) == objects.Path(edited.object.Get());
+}
+
+/// Each object's own value; the first failure is thrown once all were tried.
+void WriteEach(const EditedAttribute& edited, const std::vector<MemberValue>& values) {
+    HostObjects& objects = edited.members->objects;
+    const std::wstring& name = edited.row.name;
+    std::optional<ComError> failure;
+    for (const MemberValue& member : values) {
+        try {
+            Record(edited, name, member.object, objects.Attribute(member.object.Get(), name));
+            const DrawnAtOnce drawn(objects, member.object.Get());
+            objects.SetAttribute(member.object.Get(), name, member.value);
+        } catch (const ComError& error) {
+            if (!failure) failure = error;
+        }
+    }
+    ShowChange(edited);
+    if (failure) throw *failure;
+}
+
+void WriteInspected(const EditedAttribute& edited, const _variant_t& value) {
+    Record(edited, edited.row.name, edited.object, edited.members->attributes.Value(edited.attribute.Get()));
+    WriteAlone(edited, value);
+    ShowChange(edited);
 }
 
 }  // namespace
@@ -112,11 +171,10 @@ AttributeValues ReadValues(const EditedAttribute& edited) {
     AttributeValues values;
     values.value = members.attributes.Value(edited.attribute.Get());
     const Targets targets = FindTargets(edited);
+    if (targets.several && targets.others.empty()) values.untold = SelectionCount(edited.host.Get());
     if (targets.others.empty()) return values;
-    values.members.push_back({edited.object, values.value});
-    for (const ComPtr<IDispatch>& object : targets.others) {
-        values.members.push_back({object, members.objects.Attribute(object.Get(), edited.row.name)});
-    }
+    values.members = ReadOthers(edited, edited.row.name, targets);
+    values.members.insert(values.members.begin(), {edited.object, values.value});
     values.differ = std::ranges::any_of(values.members, [&](const MemberValue& member) {
         return !SameValue(members.objects, member.value, values.value);
     });
@@ -130,25 +188,29 @@ void WriteBack(const EditedAttribute& edited, const _variant_t& value) {
     if (edited.changes) Record(edited, name, edited.object, members.attributes.Value(edited.attribute.Get()));
     const Targets targets = FindTargets(edited);
     if (targets.several) {
-        RecordOthers(edited, name, targets);
-        ThrowIfFailed(edited.host->SetSelectionAttribute(Bstr(name).Get(), value, 1),
-                      L"The host does not take the value for the selected objects");
+        if (edited.changes) {
+            for (const MemberValue& other : ReadOthers(edited, name, targets)) {
+                Record(edited, name, other.object, other.value);
+            }
+        }
+        WriteSelection(edited, name, value);
     } else {
-        const DrawnAtOnce drawn(members.objects, edited.object.Get());
-        members.attributes.SetValue(edited.attribute.Get(), value);
+        WriteAlone(edited, value);
     }
     ShowChange(edited);
 }
 
-void WriteEach(const EditedAttribute& edited, const std::vector<MemberValue>& values) {
-    HostObjects& objects = edited.members->objects;
-    const std::wstring& name = edited.row.name;
-    for (const MemberValue& member : values) {
-        if (edited.changes) Record(edited, name, member.object, objects.Attribute(member.object.Get(), name));
-        const DrawnAtOnce drawn(objects, member.object.Get());
-        objects.SetAttribute(member.object.Get(), name, member.value);
-    }
-    ShowChange(edited);
+void WriteInto(const EditedAttribute& edited, const AttributeValues& opened, const _variant_t& value) {
+    if (AreStillSelected(edited, opened.untold)) return WriteBack(edited, value);
+    if (opened.members.empty()) return WriteInspected(edited, value);
+    std::vector<MemberValue> values = opened.members;
+    for (MemberValue& member : values) member.value = value;
+    WriteEach(edited, values);
+}
+
+void WriteOpened(const EditedAttribute& edited, const AttributeValues& opened) {
+    if (opened.members.empty()) return WriteInspected(edited, opened.value);
+    WriteEach(edited, opened.members);
 }
 
 void TakeBack(HostMembers& members, const AttributeChange& change) {
@@ -163,7 +225,11 @@ void TakeBack(HostMembers& members, const AttributeChange& change) {
 bool SameValue(HostObjects& objects, const VARIANT& one, const VARIANT& other) {
     if ((one.vt & VT_ARRAY) || (other.vt & VT_ARRAY)) {
         const auto same = [&](const VARIANT& a, const VARIANT& b) { return SameValue(objects, a, b); };
-        return one.vt == other.vt && std::ranges::equal(ElementsOf(one), ElementsOf(other), same);
+        bool equal = false;  // and what is no list is like no other
+        Guard(IID_NULL, [&] {
+            equal = one.vt == other.vt && std::ranges::equal(ElementsOf(one), ElementsOf(other), same);
+        });
+        return equal;
     }
     if (one.vt == VT_DISPATCH || other.vt == VT_DISPATCH) {
         const ComPtr<IDispatch> object = ObjectOf(one), otherObject = ObjectOf(other);

@@ -51,6 +51,8 @@ struct AttributeValues {
     _variant_t value;                  ///< Of the inspected object.
     std::vector<MemberValue> members;  ///< Of all selected objects, when several are edited together.
     bool differ = false;               ///< The members do not all have the same value.
+    /// How many objects are selected and edited together, of which the host does not tell the others; else 0.
+    long untold = 0;
 };
 
 /// Reads the attribute, and, when the inspected object is one of several selected ones and the host tells
@@ -62,8 +64,13 @@ AttributeValues ReadValues(const EditedAttribute& edited);
 /// records stay, and the host has taken nothing, or nothing is known of it.
 void WriteBack(const EditedAttribute& edited, const _variant_t& value);
 
-/// Writes a value of its own into each object, whatever is selected, and records the old ones.
-void WriteEach(const EditedAttribute& edited, const std::vector<MemberValue>& values);
+/// Writes a value into the objects that `opened` was read of, whatever is selected now, and records the old
+/// ones. Goes on after an object that fails, and throws its failure at the end. Objects that the host did not
+/// tell are written as long as they look to be selected still.
+void WriteInto(const EditedAttribute& edited, const AttributeValues& opened, const _variant_t& value);
+
+/// Writes what was read of each object, likewise. Objects that the host did not tell keep what they have.
+void WriteOpened(const EditedAttribute& edited, const AttributeValues& opened);
 
 /// Writes the old value again. An object that is gone has nothing to take back.
 void TakeBack(HostMembers& members, const AttributeChange& change);

@@ -6,7 +6,6 @@
 #include "res/dialog_ids.h"
 #include "res/strings.h"
 #include "res/text_ids.h"
-#include "ui/accessible_name.h"
 #include "ui/button_picture.h"
 #include "ui/keys.h"
 #include "ui/platform_geometry.h"
@@ -65,7 +64,7 @@ CValueActionsDlg::CValueActionsDlg(Language language) noexcept
 
 void CValueActionsDlg::OnEditorInit() {
     const auto name = [this](int id, unsigned textId) {
-        SetAccessibleName(Item(id), LoadText(TextLanguage(), textId).c_str());
+        NameControl(Item(id), LoadText(TextLanguage(), textId));
     };
     const int side = pictureSide * WindowDpi(Handle()) / 96;
     for (std::size_t i = 0; i < buttons.size(); ++i) {

@@ -63,7 +63,7 @@ void DrawNoColour(HDC dc, const RECT& bounds) {
 
 }  // namespace
 
-CValueColorDlg::CValueColorDlg(Language language) noexcept : CValueDlg(QZ_DIALOG_VALUE_COLOR, language) {}
+CValueColorDlg::CValueColorDlg(Language language) : CValueDlg(QZ_DIALOG_VALUE_COLOR, language) {}
 
 /// The boxes must go before their class.
 CValueColorDlg::~CValueColorDlg() { Destroy(); }

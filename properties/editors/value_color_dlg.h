@@ -11,7 +11,7 @@ namespace qz {
 /// digits; an empty field is none, the button for that writes "no color".
 class CValueColorDlg final : public CValueDlg {
   public:
-    explicit CValueColorDlg(Language language) noexcept;
+    explicit CValueColorDlg(Language language);
     ~CValueColorDlg() override;
 
     /// Moves the focus to the palette.

@@ -36,9 +36,13 @@ void CValueDlg::OnInit() {
 }
 
 void CValueDlg::Show(const AttributeValues& values) {
-    severalShown_ = values.differ;
     refused_ = false;
     WithoutNotifications([&] { ShowValue(values.differ ? nullptr : &values.value); });
+    SetSeveralShown(values.differ);
+}
+
+void CValueDlg::SetSeveralShown(bool several) {
+    if (std::exchange(severalShown_, several) != several) site_->ValuesChanged();
 }
 
 /// A text field that is read-only can still be read and copied from; anything else is disabled.
@@ -53,13 +57,17 @@ void CValueDlg::DisableAll() const noexcept {
 }
 
 bool CValueDlg::OnCommand(int id, int notification) {
-    if (showing_ || writing_) return false;
-    return OnEdited(id, notification);
+    if (showing_) return false;
+    // While the host takes a value, typing may go on: it is written later.
+    const bool typed = notification == EN_CHANGE || notification == CBN_EDITCHANGE;
+    return !writing_ || typed ? OnEdited(id, notification) : false;
 }
 
 std::optional<LRESULT> CValueDlg::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_TIMER && wParam == writeTimer) {
-        if (waiting_) WriteNow();  // one that was in the queue when the timer was stopped comes too late
+        // One that was in the queue when the timer was stopped comes too late, one during a write comes
+        // again.
+        if (waiting_ && !writing_) WriteNow();
         return 0;
     }
     if (message == WM_SIZE) {
@@ -99,7 +107,8 @@ bool CValueDlg::Write(Writing&& writing) {
     written_ = true;  // also when it fails, as nothing is known then
     const HRESULT outcome = Guard(IID_NULL, std::forward<Writing>(writing));
     writing_ = false;
-    if (FAILED(outcome)) TellFailure(TakeErrorText(outcome));
+    refused_ = FAILED(outcome);  // before the user is told: what he entered is to stay meanwhile
+    if (refused_) TellFailure(TakeErrorText(outcome));
     return SUCCEEDED(outcome);
 }
 
@@ -107,11 +116,12 @@ void CValueDlg::WriteNow() {
     StopWaiting();
     const std::optional<_variant_t> value = EnteredValue();
     if (value) {
-        refused_ = !Write([&] { WriteBack(edited_, *value); }) && !ReadOnly();
+        if (Write([&] { WriteBack(edited_, *value); })) SetSeveralShown(false);
     } else if (KeepsWhatIsNoValue()) {
         refused_ = true;
     } else {
         MessageBeep(MB_OK);
+        refused_ = false;
         FollowHost();
     }
 }
@@ -122,10 +132,7 @@ void CValueDlg::Finish() {
     StopWaiting();
     if (value) {
         // The selection may be another one by now: not the selected objects, but those of the editor.
-        std::vector<MemberValue> values = opened_.members;
-        if (values.empty()) values.push_back({edited_.object, {}});
-        for (MemberValue& member : values) member.value = *value;
-        Write([&] { WriteEach(edited_, values); });
+        Write([&] { WriteInto(edited_, opened_, *value); });
     }
     OnFinished();
 }
@@ -134,11 +141,8 @@ void CValueDlg::Restore() {
     if (!CanRestore()) return;
     StopWaiting();
     Show(opened_);
-    if (!std::exchange(written_, false)) return;
-    std::vector<MemberValue> values = opened_.members;
-    if (values.empty()) values.push_back({edited_.object, opened_.value});
-    Write([&] { WriteEach(edited_, values); });
-    written_ = false;
+    // What could not be taken back can be tried again.
+    if (written_) written_ = !Write([this] { WriteOpened(edited_, opened_); });
 }
 
 void CValueDlg::FollowHost() {

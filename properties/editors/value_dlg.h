@@ -18,6 +18,8 @@ class ValueDlgSite {
     /// A modal window of an editor opens, has closed.
     virtual void OpeningChildDialog() = 0;
     virtual void ClosingChildDialog() = 0;
+    /// The editor shows one value instead of several, or the other way round.
+    virtual void ValuesChanged() = 0;
     /// Shows a message box over the inspector; gives the button pressed.
     virtual int ShowMessage(const std::wstring& text, const std::wstring& caption, UINT style) = 0;
     /// Lets the user change the attributes of another object, in a modal dialog over the inspector. What he
@@ -125,6 +127,7 @@ class CValueDlg : public Dialog, private ChildKeyListener {
   private:
     ComPtr<IUnknown> KeepAlive() noexcept final { return site_ ? site_->SiteOwner() : nullptr; }
     void Show(const AttributeValues& values);
+    void SetSeveralShown(bool several);
     void DisableAll() const noexcept;
     void StopWaiting() noexcept;
     template <class Writing>

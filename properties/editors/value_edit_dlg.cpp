@@ -12,7 +12,6 @@
 #include "res/dialog_ids.h"
 #include "res/strings.h"
 #include "res/text_ids.h"
-#include "ui/accessible_name.h"
 #include "ui/gdi.h"
 #include "ui/plain_label.h"
 #include "ui/platform_geometry.h"
@@ -45,20 +44,15 @@ CValueEditDlg::CValueEditDlg(EditMode mode, Language language) noexcept
 void CValueEditDlg::OnEditorInit() {
     separator_ = UserSeparators().decimal;
     field_.Create(Handle(), QZ_EDITOR_TEXT, mode_ == EditMode::Lines ? linesStyle : 0);
-    SetAccessibleName(field_.Handle(), Edited().row.name.c_str());
+    NameControl(field_.Handle(), Edited().row.name);
     if (mode_ == EditMode::Integer) {
         SendItem(QZ_EDITOR_UP_DOWN, UDM_SETBUDDY, reinterpret_cast<WPARAM>(field_.Handle()));
         SendItem(QZ_EDITOR_UP_DOWN, UDM_SETRANGE32, 0, greatestStep);
     }
     if (mode_ == EditMode::File) {
         SetItemText(QZ_EDITOR_BUTTON, L"...");
-        SetAccessibleName(Item(QZ_EDITOR_BUTTON), LoadText(TextLanguage(), QZ_TEXT_SELECT_FILE).c_str());
+        NameControl(Item(QZ_EDITOR_BUTTON), LoadText(TextLanguage(), QZ_TEXT_SELECT_FILE));
     }
-}
-
-void CValueEditDlg::OnFinished() {
-    SetAccessibleName(field_.Handle(), L"");
-    if (mode_ == EditMode::File) SetAccessibleName(Item(QZ_EDITOR_BUTTON), L"");
 }
 
 int CValueEditDlg::ButtonWidth() const {

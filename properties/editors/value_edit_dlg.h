@@ -27,7 +27,6 @@ class CValueEditDlg final : public CValueDlg {
     std::optional<_variant_t> EnteredValue() const override;
     bool OnEdited(int id, int notification) override;
     bool KeepsReturn(HWND control) const override;
-    void OnFinished() override;
     std::optional<LRESULT> OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
     bool HoldsNumber() const noexcept { return mode_ == EditMode::Integer || mode_ == EditMode::Real; }

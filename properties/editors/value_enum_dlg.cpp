@@ -3,7 +3,6 @@
 #include "properties/editors/shown_value.h"
 #include "properties/model/edit_rules.h"
 #include "res/dialog_ids.h"
-#include "ui/accessible_name.h"
 #include "ui/keys.h"
 #include "ui/platform_geometry.h"
 #include "ui/screen.h"
@@ -37,11 +36,9 @@ void CValueEnumDlg::OnEditorInit() {
     choices_ = ChoicesOf(Edited().members->attributes.Choices(Edited().attribute.Get()), real_);
     if (!Handle()) return;
     field_.AttachTo(Item(QZ_EDITOR_TEXT));
-    SetAccessibleName(field_.Handle(), Edited().row.name.c_str());
+    NameControl(field_.Handle(), Edited().row.name);
     buttons_.Create(Handle(), choices_);
 }
-
-void CValueEnumDlg::OnFinished() { SetAccessibleName(field_.Handle(), L""); }
 
 std::optional<double> CValueEnumDlg::ShownNumber(const VARIANT& value) const {
     if (real_) return ShownReal(value);
@@ -79,8 +76,7 @@ std::optional<_variant_t> CValueEnumDlg::EnteredValue() const {
 
 bool CValueEnumDlg::OnEdited(int id, int notification) {
     if (id == QZ_EDITOR_TEXT && notification == EN_CHANGE) {
-        CheckNumber(EnteredNumber());
-        WriteLater();
+        OnTyped();
         return true;
     }
     if (id == QZ_EDITOR_TEXT && notification == EN_KILLFOCUS) {
@@ -90,6 +86,20 @@ bool CValueEnumDlg::OnEdited(int id, int notification) {
     const auto chosen = notification == BN_CLICKED ? buttons_.Clicked(id) : std::nullopt;
     if (chosen) Choose(*chosen);
     return chosen.has_value();
+}
+
+void CValueEnumDlg::OnTyped() {
+    const auto mayBecome = [this](const std::wstring& text) {
+        return MayBecomeChoice(text, choices_, real_);
+    };
+    if (!mayBecome(field_.Text()) && mayBecome(field_.Accepted())) {
+        WithoutNotifications([this] { field_.Revert(); });
+        MessageBeep(MB_OK);
+        return;  // what was typed before may still wait
+    }
+    field_.Accept();
+    CheckNumber(EnteredNumber());
+    WriteLater();
 }
 
 void CValueEnumDlg::Choose(std::size_t index) {

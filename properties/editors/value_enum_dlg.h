@@ -8,9 +8,10 @@
 
 namespace qz {
 
-/// The choices, and a field for their numbers and those between. A typed number that lies beyond the choices
-/// is put back when it is to be written or the field is left, not before: "1" is on the way to "15". An
-/// attribute without labels takes any number. What does not fit into the editor is scrolled.
+/// The choices, and a field for their numbers and those between. An entry that can no longer become such a
+/// number is put back at once, one before the first choice when it is to be written or the field is left: "1"
+/// is on the way to "15". An attribute without labels takes any number. What does not fit into the editor is
+/// scrolled.
 class CValueEnumDlg final : public CValueDlg {
   public:
     /// `real`: the choices need not be whole numbers.
@@ -23,11 +24,11 @@ class CValueEnumDlg final : public CValueDlg {
     std::optional<_variant_t> EnteredValue() const override;
     bool OnEdited(int id, int notification) override;
     bool KeepsWhatIsNoValue() const override { return false; }
-    void OnFinished() override;
     std::optional<LRESULT> OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
     std::optional<double> EnteredNumber() const;
     std::optional<double> ShownNumber(const VARIANT& value) const;
+    void OnTyped();
     void CheckNumber(std::optional<double> number) const;
     void Choose(std::size_t index);
 

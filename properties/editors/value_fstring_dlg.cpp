@@ -7,7 +7,6 @@
 #include "properties/model/entry_layouts.h"
 #include "properties/model/number_list.h"
 #include "res/dialog_ids.h"
-#include "ui/accessible_name.h"
 #include "ui/platform_geometry.h"
 #include "ui/screen.h"
 
@@ -42,10 +41,8 @@ CValueFStringDlg::CValueFStringDlg(Language language) noexcept : CValueDlg(QZ_DI
 
 void CValueFStringDlg::OnEditorInit() {
     field_.AttachTo(Item(QZ_EDITOR_TEXT));
-    SetAccessibleName(field_.Handle(), Edited().row.name.c_str());
+    NameControl(field_.Handle(), Edited().row.name);
 }
-
-void CValueFStringDlg::OnFinished() { SetAccessibleName(field_.Handle(), L""); }
 
 void CValueFStringDlg::OnSized(SIZE client) {
     const FieldPlaces places = ArrangeField(EditMode::Lines, {FromPlatform(client), WindowDpi(Handle()), 0});

@@ -19,7 +19,6 @@ class CValueFStringDlg final : public CValueDlg {
     std::optional<_variant_t> EnteredValue() const override;
     bool OnEdited(int id, int notification) override;
     bool KeepsReturn(HWND control) const override { return control == field_.Handle(); }
-    void OnFinished() override;
 
     EntryField field_;
 };

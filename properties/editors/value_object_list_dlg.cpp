@@ -5,7 +5,6 @@
 #include "res/dialog_ids.h"
 #include "res/strings.h"
 #include "res/text_ids.h"
-#include "ui/accessible_name.h"
 #include "ui/platform_geometry.h"
 #include "ui/screen.h"
 
@@ -44,7 +43,7 @@ void CValueObjectListDlg::OnEditorInit() {
     SendItem(QZ_EDITOR_OBJECTS, LVM_SETEXTENDEDLISTVIEWSTYLE, styles, styles);
     LVCOLUMNW column{};
     SendItem(QZ_EDITOR_OBJECTS, LVM_INSERTCOLUMNW, 0, reinterpret_cast<LPARAM>(&column));
-    SetAccessibleName(Item(QZ_EDITOR_OBJECTS), LoadText(TextLanguage(), QZ_TEXT_OBJECTS).c_str());
+    NameControl(Item(QZ_EDITOR_OBJECTS), LoadText(TextLanguage(), QZ_TEXT_OBJECTS));
     SendItem(QZ_EDITOR_FORM_FIELDS_ONLY, BM_SETCHECK, BST_CHECKED);
     const ComPtr<IVandraX> host = Edited().host;
     pause_ = ConfirmationPause::On(host.Get());

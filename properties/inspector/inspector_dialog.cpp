@@ -4,7 +4,6 @@
 #include "res/dialog_ids.h"
 #include "res/strings.h"
 #include "res/text_ids.h"
-#include "ui/accessible_name.h"
 #include "ui/platform_geometry.h"
 #include "ui/screen.h"
 
@@ -16,7 +15,7 @@ const unsigned InspectorDialog::dialogTemplate = QZ_DIALOG_INSPECTOR;
 
 void InspectorDialog::OnInit() {
     const auto name = [this](int id, unsigned textId) {
-        SetAccessibleName(Item(id), LoadText(TextLanguage(), textId).c_str());
+        NameControl(Item(id), LoadText(TextLanguage(), textId));
     };
     name(QZ_INSPECTOR_TABS, QZ_TEXT_CATEGORIES);
     name(QZ_INSPECTOR_LIST, QZ_TEXT_ATTRIBUTES);

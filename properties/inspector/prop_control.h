@@ -81,6 +81,7 @@ class PropControl final
 
     void OpeningChildDialog() override;
     void ClosingChildDialog() override;
+    void ValuesChanged() override;
     int ShowMessage(const std::wstring& text, const std::wstring& caption, UINT style) override;
     void EditObject(IDispatch* object) override;
     IUnknown* SiteOwner() noexcept override { return Identity(); }

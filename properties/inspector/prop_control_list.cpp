@@ -196,12 +196,16 @@ void PropControl::CloseEditor() {
     if (hadFocus) SetFocus(dialog_->List());
 }
 
+// Keys come from the list itself, past the dialog's messages; what follows may release the control.
+
 void PropControl::OnPickerKey() {
+    const ComPtr<IUnknown> alive = Identity();
     const ValueDlgPointer editor = editor_;
     if (editor && editor->Handle()) editor->OpenPicker();
 }
 
 void PropControl::OnRestoreKey() {
+    const ComPtr<IUnknown> alive = Identity();
     const ValueDlgPointer editor = editor_;
     if (editor) editor->Restore();
 }
@@ -209,6 +213,10 @@ void PropControl::OnRestoreKey() {
 void PropControl::OpeningChildDialog() { events_.Raise(1); }
 
 void PropControl::ClosingChildDialog() { events_.Raise(2); }
+
+void PropControl::ValuesChanged() {
+    if (editor_ && DialogWindow()) dialog_->SetSeveralValues(editor_->ShowsSeveralValues());
+}
 
 int PropControl::ShowMessage(const std::wstring& text, const std::wstring& caption, UINT style) {
     return ShowMessageBox(text, style, caption);

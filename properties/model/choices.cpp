@@ -20,6 +20,8 @@ std::wstring_view NumberBefore(std::wstring_view label, bool real) {
     return number;
 }
 
+constexpr std::size_t charactersRead = 31;
+
 }  // namespace
 
 std::vector<Choice> ChoicesOf(std::span<const std::wstring> labels, bool real) {
@@ -32,11 +34,17 @@ std::vector<Choice> ChoicesOf(std::span<const std::wstring> labels, bool real) {
 }
 
 std::optional<double> TypedChoice(std::wstring_view text, std::span<const Choice> choices, bool real) {
-    constexpr std::size_t charactersRead = 31;
     if (choices.empty()) return std::nullopt;
     const std::optional<double> number = NumberOf(Trimmed(text.substr(0, charactersRead)), real);
     const bool between = number && *number >= choices.front().number && *number <= choices.back().number;
     return between ? number : std::nullopt;
+}
+
+bool MayBecomeChoice(std::wstring_view text, std::span<const Choice> choices, bool real) {
+    const std::wstring_view typed = Trimmed(text.substr(0, charactersRead));
+    if (typed.empty() || choices.empty()) return true;
+    const std::optional<double> number = NumberOf(typed, real);
+    return number ? *number <= choices.back().number : real && typed == L".";
 }
 
 }  // namespace qz

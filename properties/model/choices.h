@@ -24,4 +24,7 @@ std::vector<Choice> ChoicesOf(std::span<const std::wstring> labels, bool real);
 /// text.
 std::optional<double> TypedChoice(std::wstring_view text, std::span<const Choice> choices, bool real);
 
+/// Whether typing on can make such a number of a text: "1" is on the way to 15, "159" no longer is.
+bool MayBecomeChoice(std::wstring_view text, std::span<const Choice> choices, bool real);
+
 }  // namespace qz

@@ -40,12 +40,12 @@ bool IsAccepted(EditMode mode, std::wstring_view text, wchar_t decimalSeparator)
 
 bool MayBecome(EditMode mode, std::uint32_t type, std::wstring_view before, std::wstring_view after,
                wchar_t decimalSeparator) {
-    const auto mayStand = [&](std::wstring_view text) {
-        if (!IsAccepted(mode, text, decimalSeparator)) return false;
+    if (!IsAccepted(mode, after, decimalSeparator)) return !IsAccepted(mode, before, decimalSeparator);
+    const auto fits = [&](std::wstring_view text) {
         const std::optional<double> number = RealOf(text, decimalSeparator);
         return !number || ValueFits(type, *number);
     };
-    return mayStand(after) || !mayStand(before);
+    return fits(after) || !fits(before);
 }
 
 std::optional<std::int32_t> IntegerOf(std::wstring_view text) { return WholeNumberOf(Trimmed(text)); }

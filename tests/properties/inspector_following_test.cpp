@@ -80,6 +80,7 @@ TEST_F(InspectorFollows, SeveralObjectsAreWrittenTogether) {
     EXPECT_EQ(ValueCaption(), L"Value (several)");
     EXPECT_EQ(SendMessageW(Field(QZ_EDITOR_CHECK), BM_GETCHECK, 0, 0), BST_INDETERMINATE);
     Click(Field(QZ_EDITOR_CHECK));
+    EXPECT_EQ(ValueCaption(), L"Value") << "of all from now on";
     Click(Field(QZ_EDITOR_CHECK));
     EXPECT_TRUE(static_cast<bool>(Value(L"Objects[F]", L"Locked")));
     EXPECT_TRUE(static_cast<bool>(Value(L"Objects[G]", L"Locked")));

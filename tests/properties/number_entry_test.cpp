@@ -75,6 +75,7 @@ TEST(EditRules, EntriesMayNotBreakATextButMayMendIt) {
     EXPECT_TRUE(MayBecome(EditMode::Integer, 3, L"3276", L"32768", L'.'));
     EXPECT_FALSE(MayBecome(EditMode::Integer, 3, L"", L"99999999999999999999", L'.'));
     EXPECT_TRUE(MayBecome(EditMode::Integer, 2, L"700000", L"70000", L'.'));
+    EXPECT_FALSE(MayBecome(EditMode::Integer, 2, L"700000", L"700000x", L'.'));
     EXPECT_FALSE(MayBecome(EditMode::Real, 4, L"1,5", L"1,5,", L','));
 }
 
@@ -131,6 +132,11 @@ TEST(Choices, TypedNumbersLieBetweenTheFirstAndTheLast) {
     }
     EXPECT_EQ(TypedChoice(L"9.01", choices, true), std::nullopt);
     EXPECT_EQ(TypedChoice(L"0", {}, false), std::nullopt);
+    for (const wchar_t* text : {L"", L"1", L"9"}) EXPECT_TRUE(MayBecomeChoice(text, choices, false)) << text;
+    for (const wchar_t* text : {L"10", L"1.", L"x"})
+        EXPECT_FALSE(MayBecomeChoice(text, choices, false)) << text;
+    EXPECT_TRUE(MayBecomeChoice(L".", choices, true));
+    EXPECT_FALSE(MayBecomeChoice(L"9.5", choices, true));
 }
 
 TEST(NumberList, ReadsWhatItWritesAndOtherSeparators) {

@@ -353,6 +353,45 @@ TEST_F(ValueEdit, SeveralObjectsAreTypedTogetherAndTakenBack) {
     EXPECT_EQ(static_cast<long>(Value(L"Objects[G]", L"BorderStyle")), 1);
 }
 
+TEST_F(ValueEdit, SomeOfTheSelectionLacksTheAttributeOrIsNotTold) {
+    const auto field = Create(typeField, L"F");
+    Create(typeField, L"G");
+    Add(L"Objects[F]", L"Own", L'*', 0, 3, 1L);
+    Open();
+    Select(L"Objects[G]");
+    Select(L"Objects[F]", true);
+    Inspect(field);
+    ASSERT_TRUE(Choose(L"Own"));
+    ASSERT_NE(Editor(), nullptr);
+    EXPECT_EQ(Shown(), L"1");
+    host->FailOperation(_bstr_t(L"SelectedObjects"), E_NOTIMPL);
+    _variant_t current;
+    ASSERT_EQ(host->GetCurrentObject(&current), S_OK);
+    Inspect(current.pdispVal);
+    ASSERT_TRUE(Choose(L"Left"));
+    Type(Text(), L"7");
+    ASSERT_TRUE(Choose(L"Top"));
+    EXPECT_EQ(static_cast<long>(Value(L"Objects[F]", L"Left")), 7);
+    EXPECT_EQ(static_cast<long>(Value(L"Objects[G]", L"Left")), 7);
+}
+
+TEST_F(ValueEdit, WhatCannotBeRestoredCanBeTriedAgain) {
+    InspectField();
+    ASSERT_TRUE(Choose(L"Left"));
+    Type(Text(), L"9");
+    LetWritingHappen();
+    host->FailOperation(_bstr_t(L"Attribute.Value"), E_ACCESSDENIED);
+    {
+        const MessageBoxAnswer told(IDOK);
+        Press(Text(), VK_ESCAPE);
+        EXPECT_TRUE(told.Shown());
+    }
+    host->ClearFaults();
+    EXPECT_EQ(static_cast<long>(Value(L"Objects[F]", L"Left")), 9);
+    Press(Text(), VK_ESCAPE);
+    EXPECT_EQ(static_cast<long>(Value(L"Objects[F]", L"Left")), 1440);
+}
+
 TEST_F(ValueEdit, WhatTheHostRefusesStaysAndIsExplained) {
     InspectField();
     for (const wchar_t* name : {L"Left", L"Text", L"BorderStyle", L"TabStops"}) {
