@@ -16,9 +16,15 @@ std::vector<_variant_t> Reversed(std::initializer_list<_variant_t> arguments) {
 }  // namespace
 
 _variant_t LateBoundMember::Get(IDispatch* object, std::initializer_list<_variant_t> arguments) {
+    constexpr WORD flags = DISPATCH_PROPERTYGET | DISPATCH_METHOD;
+    if (arguments.size() < 2) {  // most calls, and thousands of them: nothing to turn round
+        DISPPARAMS parameters{const_cast<_variant_t*>(arguments.begin()), nullptr,  // only read
+                              static_cast<UINT>(arguments.size()), 0};
+        return Invoke(object, flags, parameters);
+    }
     std::vector<_variant_t> reversed = Reversed(arguments);
     DISPPARAMS parameters{reversed.data(), nullptr, static_cast<UINT>(reversed.size()), 0};
-    return Invoke(object, DISPATCH_PROPERTYGET | DISPATCH_METHOD, parameters);
+    return Invoke(object, flags, parameters);
 }
 
 void LateBoundMember::Put(IDispatch* object, const _variant_t& value,
