@@ -132,8 +132,8 @@ class DocxDialog final : public RecordDialog {
             std::vector<HWND> windows;
             for (const Row& row : rows_) {
                 if (DocxPageOf(*row.field) != page) continue;
+                // A chooser is next to its entry by the Tab key; its button has no room for more than "...".
                 windows.push_back(row.label ? row.label : row.entry);
-                if (row.button) windows.push_back(row.button);
             }
             GiveMnemonics(windows, taken);
         }

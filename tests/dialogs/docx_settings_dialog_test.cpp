@@ -4,6 +4,10 @@
 #include "tests/dialogs/record_dialogs.h"
 #include "tests/support/message_box_answer.h"
 
+#include <dlgs.h>
+
+#include <filesystem>
+#include <fstream>
 #include <memory>
 #include <set>
 #include <variant>
@@ -192,6 +196,56 @@ TEST_F(DocxDialogTest, ShowsThePageThatIsChosen) {
         EXPECT_EQ(GetNextDlgTabItem(Window(), Item(QZ_SETTINGS_DEFAULTS), TRUE), Item(Id(L"Merge:Enabled")));
         Press(IDCANCEL);
     });
+}
+
+/// Fills in the chooser that opens over the dialog, then presses its OK.
+class ChooserAnswer {
+  public:
+    ChooserAnswer(HWND over, std::function<void(HWND)> fill) : timer_(SetTimer(nullptr, 0, 50, &OnTimer)) {
+        over_ = over;
+        fill_ = std::move(fill);
+    }
+    ~ChooserAnswer() { KillTimer(nullptr, timer_); }
+
+  private:
+    static void CALLBACK OnTimer(HWND, UINT, UINT_PTR, DWORD) {
+        HWND chooser = nullptr;
+        do {
+            chooser = FindWindowExW(nullptr, chooser, L"#32770", nullptr);
+        } while (chooser && (GetWindow(chooser, GW_OWNER) != over_ || !GetDlgItem(chooser, IDOK)));
+        if (!chooser || !fill_) return;
+        std::exchange(fill_, nullptr)(chooser);
+        PostMessageW(chooser, WM_COMMAND, IDOK, 0);
+    }
+
+    static inline HWND over_ = nullptr;
+    static inline std::function<void(HWND)> fill_;
+    UINT_PTR timer_;
+};
+
+TEST_F(DocxDialogTest, ChoosersFillTheirEntries) {
+    const std::filesystem::path file = std::filesystem::temp_directory_path() / L"qz merge.docx";
+    std::ofstream(file) << "x";
+    const auto choose = [](std::wstring_view key, const std::function<void(HWND)>& fill) {
+        const ChooserAnswer answer(Window(), fill);
+        const int id = Id(key, QZ_DOCX_CHOOSERS);
+        SendMessageW(Window(), WM_COMMAND, MAKEWPARAM(id, BN_CLICKED), reinterpret_cast<LPARAM>(Item(id)));
+        return Shown(Id(key));
+    };
+    const auto record = Record([&] {
+        constexpr int green = 707;  // in the system's colour chooser
+        Enter(Id(L"Watermark:Color"), L"255");
+        EXPECT_EQ(choose(L"Watermark:Color", [](HWND chooser) { SetDlgItemInt(chooser, green, 128, FALSE); }),
+                  std::to_wstring(RGB(255, 128, 0)));
+        EXPECT_EQ(choose(L"Merge:File",
+                         [&](HWND chooser) {
+                             const int entry = GetDlgItem(chooser, edt1) ? edt1 : cmb13;
+                             SetDlgItemTextW(chooser, entry, file.c_str());
+                         }),
+                  file.wstring());
+    });
+    EXPECT_EQ(record->GetString(L"Merge:File"), file.wstring());
+    std::filesystem::remove(file);
 }
 
 }  // namespace

@@ -76,10 +76,10 @@ wchar_t MnemonicOf(const std::wstring& text) {
     return 0;
 }
 
-/// Return and Escape press these two; frames cannot have the focus.
+/// Return and Escape press these two; frames cannot have the focus; a chooser belongs to the entry before it.
 bool NeedsMnemonic(const Label& label) {
     const int id = GetDlgCtrlID(label.window);
-    return label.button && label.kind != BS_GROUPBOX && id != IDOK && id != IDCANCEL;
+    return label.button && label.text != L"..." && label.kind != BS_GROUPBOX && id != IDOK && id != IDCANCEL;
 }
 
 }  // namespace
