@@ -17,7 +17,7 @@ namespace {
 
 constexpr wchar_t captionStart[] = L"Properties for: ";
 constexpr std::size_t longestPath = 127;
-constexpr int buttonGap = 4;  // pixels
+constexpr int buttonGap = 4;  // pixels at 96 dpi
 
 // Events of the inspector.
 constexpr DISPID openingChildDialog = 1;
@@ -162,14 +162,16 @@ void PropertiesWindow::TakeObject() {
 
 void PropertiesWindow::PlaceWindow(HWND parent) const noexcept {
     const Rect desktop = Desktop();
+    const int dpi = WindowDpi(Handle());
     const std::optional<Rect> saved = state_.memory.Read();
     if (Has(qzPropertiesDlgOptions_CenterWindow)) {
-        MoveTo(Handle(), Centred(saved.value_or(PlaceOf(Handle())), desktop));
+        MoveTo(Handle(), Centred(saved.value_or(PlaceOf(Handle())), desktop, dpi));
     } else if (saved) {
-        MoveTo(Handle(), Clamp(*saved, desktop));
+        MoveTo(Handle(), Clamp(*saved, desktop, dpi));
     } else {
         const HWND over = parent ? GetAncestor(parent, GA_ROOT) : nullptr;
-        MoveTo(Handle(), Clamp(Centred(PlaceOf(Handle()), over ? PlaceOf(over) : desktop), desktop));
+        MoveTo(Handle(),
+               Clamp(Centred(PlaceOf(Handle()), over ? PlaceOf(over) : desktop, dpi), desktop, dpi));
     }
 }
 
@@ -184,19 +186,20 @@ void PropertiesWindow::Arrange(SIZE client) {
         SetWindowPos(Item(id), nullptr, left, at.top, width, at.bottom - at.top,
                      SWP_NOZORDER | SWP_NOACTIVATE);
     };
-    const LONG cancelLeft = client.cx - buttonGap - widthOf(IDCANCEL);
-    const LONG okLeft = cancelLeft - buttonGap - widthOf(IDOK);
+    const LONG gap = MulDiv(buttonGap, WindowDpi(Handle()), 96);
+    const LONG cancelLeft = client.cx - gap - widthOf(IDCANCEL);
+    const LONG okLeft = cancelLeft - gap - widthOf(IDOK);
     moveTo(IDCANCEL, cancelLeft, widthOf(IDCANCEL));
     moveTo(IDOK, okLeft, widthOf(IDOK));
-    const LONG listLeft = ItemBounds(QZ_PROPERTIES_PIN).right + buttonGap;
-    moveTo(QZ_PROPERTIES_OBJECTS, listLeft, std::max<LONG>(okLeft - buttonGap - listLeft, 0));
+    const LONG listLeft = ItemBounds(QZ_PROPERTIES_PIN).right + gap;
+    moveTo(QZ_PROPERTIES_OBJECTS, listLeft, std::max<LONG>(okLeft - gap - listLeft, 0));
     const LONG top = ItemBounds(QZ_PROPERTIES_INSPECTOR).top;
     site_.Move({0, top, client.cx, std::max(client.cy, top)});
 }
 
 void PropertiesWindow::KeepInLimits() const noexcept {
     const Rect place = PlaceOf(Handle());
-    const Rect allowed = Clamp(place, Desktop());
+    const Rect allowed = Clamp(place, Desktop(), WindowDpi(Handle()));
     if (allowed != place) MoveTo(Handle(), allowed);
 }
 
@@ -332,7 +335,7 @@ std::optional<LRESULT> PropertiesWindow::OnMessage(UINT message, WPARAM wParam, 
             return std::nullopt;
         case WM_SIZING: {
             RECT& place = *reinterpret_cast<RECT*>(lParam);
-            place = ToPlatform(Clamp(FromPlatform(place), Desktop()));
+            place = ToPlatform(Clamp(FromPlatform(place), Desktop(), WindowDpi(Handle())));
             return TRUE;
         }
         case WM_EXITSIZEMOVE:

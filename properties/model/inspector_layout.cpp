@@ -10,15 +10,15 @@ constexpr int descriptionLines = 2;
 constexpr int fewestListLines = 3;
 constexpr int valueHeightAt96 = 140;
 
-// The editor's distance from the frame around the value, in pixels at every resolution.
+// The editor's distance from the frame around the value, in pixels at 96 dpi.
 constexpr int frameSides = 6;
 constexpr int frameTopAndBottom = 12;
 
 int Scaled(int pixelsAt96, int dpi) noexcept { return pixelsAt96 * dpi / 96; }
 
-Rect Inside(const Rect& frame) noexcept {
-    const Rect inside{frame.left + frameSides, frame.top + frameTopAndBottom, frame.right - frameSides,
-                      frame.bottom - frameTopAndBottom};
+Rect Inside(const Rect& frame, int dpi) noexcept {
+    const int sides = Scaled(frameSides, dpi), ends = Scaled(frameTopAndBottom, dpi);
+    const Rect inside{frame.left + sides, frame.top + ends, frame.right - sides, frame.bottom - ends};
     return inside.Empty() ? Rect{} : inside;
 }
 
@@ -40,7 +40,7 @@ InspectorPlaces ArrangeInspector(const InspectorMetrics& metrics) noexcept {
     InspectorPlaces places;
     const int valueTop = bottom - value;
     if (value > 0) places.value = {left, valueTop, right, bottom};
-    places.editor = Inside(places.value);
+    places.editor = Inside(places.value, metrics.dpi);
     const int descriptionTop = valueTop - description;
     if (description > 0) places.description = {left, descriptionTop, right, valueTop - gap};
     const int listBottom = value > 0 ? descriptionTop - gap : bottom;

@@ -34,8 +34,9 @@ Rect RectOf(const Axes& axes) noexcept {
             static_cast<std::int32_t>(axes.across.high), static_cast<std::int32_t>(axes.down.high)};
 }
 
-Edges Limited(const Edges& edges, const Limits& limits) noexcept {
-    return {edges.low, edges.low + std::clamp(edges.Extent(), limits.least, limits.most)};
+Edges Limited(const Edges& edges, const Limits& limits, int dpi) noexcept {
+    const std::int64_t extent = std::clamp(edges.Extent(), limits.least * dpi / 96, limits.most * dpi / 96);
+    return {edges.low, edges.low + extent};
 }
 
 Edges Inside(const Edges& edges, const Edges& desktop) noexcept {
@@ -48,21 +49,21 @@ Edges Middle(const Edges& edges, const Edges& desktop) noexcept {
     return Inside({low, low + edges.Extent()}, desktop);
 }
 
-Axes LimitedAxes(const Rect& window) noexcept {
+Axes LimitedAxes(const Rect& window, int dpi) noexcept {
     const Axes axes = AxesOf(window);
-    return {Limited(axes.across, widths), Limited(axes.down, heights)};
+    return {Limited(axes.across, widths, dpi), Limited(axes.down, heights, dpi)};
 }
 
 }  // namespace
 
-Rect Clamp(const Rect& window, const Rect& desktop) noexcept {
-    const Axes limited = LimitedAxes(window);
+Rect Clamp(const Rect& window, const Rect& desktop, int dpi) noexcept {
+    const Axes limited = LimitedAxes(window, dpi);
     const Axes whole = AxesOf(desktop);
     return RectOf({Inside(limited.across, whole.across), Inside(limited.down, whole.down)});
 }
 
-Rect Centred(const Rect& window, const Rect& desktop) noexcept {
-    const Axes limited = LimitedAxes(window);
+Rect Centred(const Rect& window, const Rect& desktop, int dpi) noexcept {
+    const Axes limited = LimitedAxes(window, dpi);
     const Axes whole = AxesOf(desktop);
     return RectOf({Middle(limited.across, whole.across), Middle(limited.down, whole.down)});
 }

@@ -10,12 +10,13 @@
 
 namespace qz {
 
-/// The window with a width of 400 to 600 and a height of 300 to 600 pixels, its left and top edges kept if it
-/// fits inside the desktop, else moved inside as far as it fits: the left and top edges always are.
-Rect Clamp(const Rect& window, const Rect& desktop) noexcept;
+/// The window with a width of 400 to 600 and a height of 300 to 600 pixels, as they are at 96 dpi, its left
+/// and top edges kept if it fits inside the desktop, else moved inside as far as it fits: the left and top
+/// edges always are.
+Rect Clamp(const Rect& window, const Rect& desktop, int dpi = 96) noexcept;
 
 /// The window in the middle of the desktop, its size within the same limits.
-Rect Centred(const Rect& window, const Rect& desktop) noexcept;
+Rect Centred(const Rect& window, const Rect& desktop, int dpi = 96) noexcept;
 
 /// The rectangle saved, when all four of its edges were.
 std::optional<Rect> SavedPlacement(std::optional<std::int32_t> left, std::optional<std::int32_t> right,

@@ -15,6 +15,7 @@ TEST(WindowPlacement, LimitsTheSizeByTheRightAndBottomEdges) {
     EXPECT_EQ(Clamp({10, 20, 1010, 120}, desktop), (Rect{10, 20, 610, 320}));
     EXPECT_EQ(Clamp({10, 20, 0, 900}, desktop), (Rect{10, 20, 410, 620}));
     EXPECT_EQ(Clamp({10, 20, 510, 420}, desktop), (Rect{10, 20, 510, 420}));
+    EXPECT_EQ(Clamp({10, 20, 1010, 120}, desktop, 144), (Rect{10, 20, 910, 470}));
 }
 
 TEST(WindowPlacement, ShiftsTheWindowInside) {
