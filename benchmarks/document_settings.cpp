@@ -24,8 +24,8 @@ struct Size {
     int fonts;
 };
 
-constexpr Size large{25'000, 20'000};
-constexpr Size small{1, 0};
+constexpr Size longDocument{25'000, 20'000};
+constexpr Size emptyDocument{1, 0};
 
 /// A host with a document of empty pages.
 struct DocumentOf {
@@ -153,10 +153,10 @@ class SettingsDialog {
 /// The dialog itself costs the same for every document, most of it the system's own making of its controls:
 /// what counts is what the document adds.
 void MeasureDocumentSettings(Report& report) {
-    SettingsDialog dialog(large), smallDialog(small);
-    BareReads bare(large), smallBare(small);
-    const Pair opening = MeasureBoth([&] { dialog.Open(); }, [&] { smallDialog.Open(); });
-    const Pair reading = MeasureBoth([&] { bare.Read(); }, [&] { smallBare.Read(); });
+    SettingsDialog dialog(longDocument), emptyDialog(emptyDocument);
+    BareReads bare(longDocument), emptyBare(emptyDocument);
+    const Pair opening = MeasureBoth([&] { dialog.Open(); }, [&] { emptyDialog.Open(); });
+    const Pair reading = MeasureBoth([&] { bare.Read(); }, [&] { emptyBare.Read(); });
     report.AddTime("what 25,000 pages and 20,000 fonts add to opening the settings to the bare reads",
                    {opening.measured - opening.reference, reading.measured - reading.reference}, 2.0);
 }

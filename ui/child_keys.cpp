@@ -21,6 +21,8 @@ class ChildKeys::Control final : public ChildWindow {
   private:
     std::optional<LRESULT> OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override {
         if (message == WM_GETDLGCODE) return DialogCode(wParam, lParam);
+        // From a control inside this one, such as the field of a combo box.
+        if (message == childFocusMessage) return SendMessageW(GetParent(Handle()), message, wParam, lParam);
         if (IsKeyPress(message)) {
             dropsCharacter_ = listener_.WantsKey(Handle(), message, wParam);
             if (!dropsCharacter_) return std::nullopt;

@@ -57,6 +57,7 @@ std::wstring WindowText(HWND window) {
 
 Dialog::~Dialog() {
     if (!handle_) return;
+    ForgetNames();
     SetWindowLongPtrW(handle_, DWLP_USER, 0);
     DestroyWindow(handle_);
 }

@@ -10,6 +10,14 @@ thread_local ModelessKeyboard* first = nullptr;
 
 bool IsKey(UINT message) noexcept { return message >= WM_KEYFIRST && message <= WM_KEYLAST; }
 
+/// Keys are then those of a menu, or move or size the window.
+bool InMenuOrMoving() noexcept {
+    GUITHREADINFO info{};
+    info.cbSize = sizeof info;
+    constexpr DWORD modes = GUI_INMENUMODE | GUI_POPUPMENUMODE | GUI_SYSTEMMENUMODE | GUI_INMOVESIZE;
+    return GetGUIThreadInfo(GetCurrentThreadId(), &info) && (info.flags & modes);
+}
+
 }  // namespace
 
 ModelessKeyboard::ModelessKeyboard(HWND dialog)
@@ -31,7 +39,7 @@ ModelessKeyboard::~ModelessKeyboard() {
 /// list that the message is for.
 LRESULT CALLBACK ModelessKeyboard::OnMessage(int code, WPARAM removed, LPARAM lParam) noexcept {
     auto* const message = reinterpret_cast<MSG*>(lParam);
-    if (code == HC_ACTION && removed == PM_REMOVE && IsKey(message->message)) {
+    if (code == HC_ACTION && removed == PM_REMOVE && IsKey(message->message) && !InMenuOrMoving()) {
         for (ModelessKeyboard* each = first; each; each = each->next_) {
             const HWND dialog = each->dialog_;
             if (message->hwnd != dialog && !IsChild(dialog, message->hwnd)) continue;

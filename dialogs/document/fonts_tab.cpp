@@ -5,6 +5,7 @@
 #include "host/attributes.h"
 #include "res/dialog_ids.h"
 #include "res/text_ids.h"
+#include "ui/window.h"
 
 #include <algorithm>
 #include <numeric>
@@ -230,11 +231,14 @@ void CDocSettingsDlgTab4::ChooseEmbedding(std::size_t font) {
     const auto level = AskForEmbedding(GetAncestor(Handle(), GA_ROOT), rows_[font].level, TextLanguage());
     if (!level) return;
     const ComPtr<IDispatch> object = fonts_[font];
-    const HRESULT outcome = Guard(IID_NULL, [&] {
+    const HRESULT written = Guard(IID_NULL, [&] {
         Objects().SetAttribute(object.Get(), L"Embedding", _variant_t(static_cast<long>(*level)));
+    });
+    if (FAILED(written) && Handle()) ShowFailure(written);
+    const HRESULT read = Guard(IID_NULL, [&] {
         if (const auto row = ReadFont(object.Get())) rows_[font] = *row;
     });
-    if (FAILED(outcome) && Handle()) ShowFailure(outcome);
+    if (FAILED(read)) ShowErrorInDebugger();
     if (Handle()) InvalidateRect(Item(QZ_FONTS_LIST), nullptr, TRUE);
 }
 

@@ -98,7 +98,9 @@ void CDocSettingsDlgTab2::Write() {
     const auto change = ProtectionToApply(document, wanted);
     if (!change) return;
     Apply(*change);
-    shown_ = now;  // it is what the document has from now on
+    // What the document has from now on; after the protection was removed every entry counts as a new one.
+    const bool taken = change->owner == wanted.owner && change->user == wanted.user;
+    shown_ = taken ? now : Passwords{};
 }
 
 /// They may have changed since the tab was filled.

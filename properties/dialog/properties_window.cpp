@@ -1,7 +1,6 @@
 #include "properties/dialog/properties_window.h"
 
 #include "host/late_bound.h"
-#include "properties/inspector/prop_control.h"
 #include "properties/model/window_placement.h"
 #include "res/dialog_ids.h"
 #include "res/strings.h"
@@ -28,6 +27,20 @@ constexpr DISPID selectedObjectChanged = 3;
 Rect Desktop() noexcept {
     return Rect::At({GetSystemMetrics(SM_XVIRTUALSCREEN), GetSystemMetrics(SM_YVIRTUALSCREEN)},
                     {GetSystemMetrics(SM_CXVIRTUALSCREEN), GetSystemMetrics(SM_CYVIRTUALSCREEN)});
+}
+
+Rect BoundsOf(HMONITOR monitor) noexcept {
+    MONITORINFO info{};
+    info.cbSize = sizeof info;
+    return GetMonitorInfoW(monitor, &info) ? FromPlatform(info.rcMonitor) : Desktop();
+}
+
+/// The place, or one on the monitor next to it when no monitor shows it: the desktop may have had another
+/// shape.
+Rect Visible(const Rect& place, int dpi) noexcept {
+    const RECT bounds = ToPlatform(place);
+    if (MonitorFromRect(&bounds, MONITOR_DEFAULTTONULL)) return place;
+    return Clamp(place, BoundsOf(MonitorFromRect(&bounds, MONITOR_DEFAULTTONEAREST)), dpi);
 }
 
 Rect PlaceOf(HWND window) noexcept {
@@ -110,26 +123,31 @@ void PropertiesWindow::ShowPin() const noexcept {
 void PropertiesWindow::OpenInspector() {
     const ComPtr<PropControl> control = MakeObject<PropControl>();
     control->RecordIn(state_.changes);
-    inspector_ = control.Get();
+    control->TellFollowed([this] { HearInspector(selectedObjectChanged); });
+    inspector_ = control;
     site_.Open(static_cast<IqzPropCtrl*>(control.Get()), Handle(), ItemBounds(QZ_PROPERTIES_INSPECTOR));
     // In the order of the Tab key it stands where the template has its place.
     SetWindowPos(site_.Window(), Item(QZ_PROPERTIES_INSPECTOR), 0, 0, 0, 0,
                  SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     sink_ = MakeObject<DispatchSink>([this](DISPID event) { HearInspector(event); });
-    sink_->Connect(inspector_.Get(), DIID__IqzPropCtrlEvents);
+    sink_->Connect(static_cast<IqzPropCtrl*>(inspector_.Get()), DIID__IqzPropCtrlEvents);
 }
 
 void PropertiesWindow::CloseInspector() noexcept {
     keyboard_.reset();
-    const ComPtr<IqzPropCtrl> inspector = std::move(inspector_);
+    const ComPtr<PropControl> inspector = std::move(inspector_);
     inspector_ = nullptr;
     if (!inspector) return;
     site_.Close();  // what waits in an editor is written, and may say so
     if (sink_) sink_->Disconnect();
+    inspector->TellFollowed(nullptr);
     inspector->put_VandraX(nullptr);
 }
 
 void PropertiesWindow::HearInspector(DISPID event) {
+    // No message of the window holds it here, and what follows asks the host.
+    const ComPtr<IUnknown> owner = owner_;
+    const std::shared_ptr<Dialog> self = shared_from_this();
     if (event == openingChildDialog) ++childDialogs_;
     if (event == closingChildDialog && childDialogs_ > 0) --childDialogs_;
     if (event == selectedObjectChanged) ShowCaption();
@@ -144,14 +162,14 @@ void PropertiesWindow::ShowCaption() {
 }
 
 void PropertiesWindow::TakeHost() {
-    const ComPtr<IqzPropCtrl> inspector = inspector_;
+    const ComPtr<PropControl> inspector = inspector_;
     if (!inspector) return;
     ThrowIfFailed(inspector->put_VandraX(state_.host.Get()), L"The inspector does not take the host");
     TakeObject();
 }
 
 void PropertiesWindow::TakeObject() {
-    const ComPtr<IqzPropCtrl> inspector = inspector_;
+    const ComPtr<PropControl> inspector = inspector_;
     if (!inspector) return;
     ThrowIfFailed(inspector->put_Object(state_.object.Get()), L"The inspector does not take the object");
     ShowCaption();
@@ -161,17 +179,17 @@ void PropertiesWindow::TakeObject() {
 // ------------------------------------------------------------------------------------------------------
 
 void PropertiesWindow::PlaceWindow(HWND parent) const noexcept {
-    const Rect desktop = Desktop();
     const int dpi = WindowDpi(Handle());
+    const HWND over = parent ? GetAncestor(parent, GA_ROOT) : nullptr;
+    const Rect monitor = BoundsOf(MonitorFromWindow(over, MONITOR_DEFAULTTOPRIMARY));
     const std::optional<Rect> saved = state_.memory.Read();
     if (Has(qzPropertiesDlgOptions_CenterWindow)) {
-        MoveTo(Handle(), Centred(saved.value_or(PlaceOf(Handle())), desktop, dpi));
+        MoveTo(Handle(), Centred(saved.value_or(PlaceOf(Handle())), monitor, dpi));
     } else if (saved) {
-        MoveTo(Handle(), Clamp(*saved, desktop, dpi));
+        MoveTo(Handle(), Visible(Clamp(*saved, Desktop(), dpi), dpi));
     } else {
-        const HWND over = parent ? GetAncestor(parent, GA_ROOT) : nullptr;
-        MoveTo(Handle(),
-               Clamp(Centred(PlaceOf(Handle()), over ? PlaceOf(over) : desktop, dpi), desktop, dpi));
+        const Rect around = over && !IsIconic(over) ? PlaceOf(over) : monitor;
+        MoveTo(Handle(), Clamp(Centred(PlaceOf(Handle()), around, dpi), Desktop(), dpi));
     }
 }
 
@@ -266,7 +284,7 @@ void PropertiesWindow::ShowChosen(const std::wstring& path) {
 
 void PropertiesWindow::RequestClose(INT_PTR result) {
     if (std::exchange(closing_, true)) return;
-    const ComPtr<IqzPropCtrl> inspector = inspector_;
+    const ComPtr<PropControl> inspector = inspector_;
     long answer = 0;
     const HRESULT asked = inspector ? inspector->Closing(&answer) : S_OK;
     closing_ = false;

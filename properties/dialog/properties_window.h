@@ -4,6 +4,7 @@
 #include "com/dispatch_sink.h"
 #include "properties/dialog/placement_memory.h"
 #include "properties/editors/edited_attribute.h"
+#include "properties/inspector/prop_control.h"
 #include "ui/dialog.h"
 #include "ui/gdi.h"
 #include "ui/hosted_control.h"
@@ -86,7 +87,7 @@ class PropertiesWindow final : public Dialog {
     bool closing_ = false;
     int childDialogs_ = 0;  ///< Modal windows of the inspector that are open.
     HostedControl site_;
-    ComPtr<IqzPropCtrl> inspector_;
+    ComPtr<PropControl> inspector_;
     ComPtr<DispatchSink> sink_;
     std::optional<ModelessKeyboard> keyboard_;
     Bitmap pinned_, unpinned_;

@@ -130,6 +130,18 @@ void WriteSelection(const EditedAttribute& edited, const std::wstring& name, con
     if (FAILED(outcome)) throw ComError(outcome, TakeErrorText(outcome));
 }
 
+/// The inspected object and those others that have the attribute: a host writes a whole selection or nothing
+/// of it.
+void WriteThose(const EditedAttribute& edited, const std::wstring& name,
+                const std::vector<MemberValue>& others, const _variant_t& value) {
+    WriteAlone(edited, value);
+    HostObjects& objects = edited.members->objects;
+    for (const MemberValue& other : others) {
+        const DrawnAtOnce drawn(objects, other.object.Get());
+        objects.SetAttribute(other.object.Get(), name, value);
+    }
+}
+
 /// As far as the host tells: as many objects are, and the inspected one is the current one.
 bool AreStillSelected(const EditedAttribute& edited, long count) {
     if (count == 0 || SelectionCount(edited.host.Get()) != count) return false;
@@ -155,7 +167,7 @@ void WriteEach(const EditedAttribute& edited, const std::vector<MemberValue>& va
         }
     }
     ShowChange(edited);
-    if (failure) throw *failure;
+    if (failure) throw ComError(*failure);
 }
 
 void WriteInspected(const EditedAttribute& edited, const _variant_t& value) {
@@ -188,12 +200,12 @@ void WriteBack(const EditedAttribute& edited, const _variant_t& value) {
     if (edited.changes) Record(edited, name, edited.object, members.attributes.Value(edited.attribute.Get()));
     const Targets targets = FindTargets(edited);
     if (targets.several) {
-        if (edited.changes) {
-            for (const MemberValue& other : ReadOthers(edited, name, targets)) {
-                Record(edited, name, other.object, other.value);
-            }
-        }
-        WriteSelection(edited, name, value);
+        const std::vector<MemberValue> others = ReadOthers(edited, name, targets);
+        for (const MemberValue& other : others) Record(edited, name, other.object, other.value);
+        if (others.size() == targets.others.size())
+            WriteSelection(edited, name, value);
+        else
+            WriteThose(edited, name, others, value);
     } else {
         WriteAlone(edited, value);
     }

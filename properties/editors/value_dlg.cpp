@@ -113,6 +113,7 @@ bool CValueDlg::Write(Writing&& writing) {
 }
 
 void CValueDlg::WriteNow() {
+    if (writing_) return WriteLater();  // from within the host's taking of a value
     StopWaiting();
     const std::optional<_variant_t> value = EnteredValue();
     if (value) {
@@ -131,7 +132,9 @@ void CValueDlg::Finish() {
     const std::optional<_variant_t> value = waiting_ ? EnteredValue() : std::nullopt;
     StopWaiting();
     if (value) {
-        // The selection may be another one by now: not the selected objects, but those of the editor.
+        // The selection may be another one by now: not the selected objects, but those of the editor. What
+        // was typed while the host takes another value has no later.
+        writing_ = false;
         Write([&] { WriteInto(edited_, opened_, *value); });
     }
     OnFinished();

@@ -37,7 +37,7 @@ class InspectorDialog final : public Dialog, private ChildKeyListener {
     InspectorDialog(InspectorDialogListener& listener, Language language) noexcept
         : Dialog(dialogTemplate, language), listener_(listener) {}
 
-    /// Replaces the tabs; tells nobody. `selected` is an index.
+    /// Shows these tabs, of which those that are there already stay; tells nobody. `selected` is an index.
     void SetTabs(std::span<const wchar_t> codes, std::size_t selected);
     void RemoveTabs();
     /// The code of the tab selected; "All" when there is none.

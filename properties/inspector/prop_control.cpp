@@ -37,7 +37,11 @@ PropControl::PropControl()
 
 STDMETHODIMP PropControl::put_VandraX(IDispatch* newVal) {
     const ComPtr<IUnknown> alive = Identity();
-    const HRESULT left = ResetPane(__uuidof(IqzPropCtrl));
+    const HRESULT left = Guard(__uuidof(IqzPropCtrl), [&]() -> HRESULT {
+        if (Host()) return ResetPane(__uuidof(IqzPropCtrl));
+        SetObject(nullptr);  // one that was put before any host
+        return S_OK;
+    });
     if (FAILED(left) || !newVal) return left;
     return InitializePane(__uuidof(IqzPropCtrl), newVal);
 }
@@ -72,7 +76,9 @@ STDMETHODIMP PropControl::get_SelectionName(BSTR* pVal) {
         std::optional<long> selected;
         long count = 0;
         if (object && host && SUCCEEDED(host->GetSelectionCount(&count))) selected = count;
-        const std::wstring name = object && members_ ? members_->objects.Name(object.Get()) : std::wstring();
+        const std::shared_ptr<HostMembers> members = members_ ? members_ : std::make_shared<HostMembers>();
+        const bool named = object && selected.value_or(0) < 2;
+        const std::wstring name = named ? members->objects.Name(object.Get()) : std::wstring();
         const std::wstring caption = SelectionCaption(object != nullptr, selected, name);
         *pVal = SysAllocStringLen(caption.data(), static_cast<UINT>(caption.size()));
         if (!*pVal) Throw(E_OUTOFMEMORY);
@@ -85,6 +91,9 @@ STDMETHODIMP PropControl::Closing(long* pAnswer) {
         RequirePointer(pAnswer);
         CloseEditor();
         if (!ConfirmationWanted()) return;
+        // The question is about these, also if another object is selected meanwhile.
+        const std::shared_ptr<AttributeChanges> changes = changes_;
+        const std::shared_ptr<HostMembers> members = members_;
         OpeningChildDialog();
         const int answer = ShowMessage(LoadText(TextLanguage(), QZ_TEXT_KEEP_CHANGES),
                                        LoadText(TextLanguage(), QZ_TEXT_KEEP_CHANGES_CAPTION),
@@ -92,7 +101,16 @@ STDMETHODIMP PropControl::Closing(long* pAnswer) {
         ClosingChildDialog();
         if (answer == 0) return;  // it could not be shown: nothing was asked
         *pAnswer = answer;
-        AnswerClosing(answer);
+        switch (static_cast<ClosingAnswer>(answer)) {
+            case ClosingAnswer::Yes:
+                ThrowIfFailed(ResetPane(__uuidof(IqzPropCtrl)));
+                break;
+            case ClosingAnswer::No:
+                changes->TakeBack([&](const AttributeChange& change) { TakeBack(*members, change); });
+                break;
+            default:
+                ReopenEditor();  // the one that was closed before the question
+        }
     });
 }
 
@@ -105,23 +123,6 @@ bool PropControl::ConfirmationWanted() {
     const bool told =
         SUCCEEDED(host->GetObjectAttribute(Bstr(documentPath).Get(), Bstr(confirmAttribute).Get(), &asked));
     return MustConfirm(!path_.empty(), there, true, told && IsSet(asked));
-}
-
-void PropControl::AnswerClosing(long answer) {
-    switch (static_cast<ClosingAnswer>(answer)) {
-        case ClosingAnswer::Yes:
-            ThrowIfFailed(ResetPane(__uuidof(IqzPropCtrl)));
-            break;
-        case ClosingAnswer::No: {
-            const std::shared_ptr<AttributeChanges> changes = changes_;
-            const std::shared_ptr<HostMembers> members = members_;
-            if (!changes || !members) return;
-            changes->TakeBack([&](const AttributeChange& change) { TakeBack(*members, change); });
-            break;
-        }
-        default:
-            OnAttributeChosen();  // the editor that was closed before the question
-    }
 }
 
 // The host
@@ -138,6 +139,12 @@ void PropControl::ForgetDocument() {
 }
 
 void PropControl::FollowHost() {
+    FollowChange();
+    const std::function<void()> told = followed_;
+    if (told) told();
+}
+
+void PropControl::FollowChange() {
     const ComPtr<IVandraX> host = Host();
     long flags = 0;
     ThrowIfFailed(host->GetChangeFlags(&flags), L"The host does not tell what changed");
@@ -152,10 +159,15 @@ void PropControl::FollowSelection(IVandraX* host) {
     const ComPtr<IDispatch> current = CurrentObject(host);
     if (!current && !object_) return;
     if (current && ObjectIsThere() && IsInspected(current.Get())) {
-        OnAttributeChosen();  // others may be selected with it now
+        ReopenEditor();  // others may be selected with it now
     } else {
         SetObject(current);
     }
+}
+
+/// What is remembered of the choice is not touched when nothing is chosen here.
+void PropControl::ReopenEditor() {
+    if (DialogWindow() && dialog_->ChosenIndex()) OnAttributeChosen();
 }
 
 /// Asks the object itself, as what lies at its old path may be another one by now.

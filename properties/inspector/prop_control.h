@@ -12,6 +12,7 @@
 
 #include "generated/qzVandraExt.h"
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -45,6 +46,8 @@ class PropControl final
     /// For an inspector in the service of another one: changes are recorded there, whatever the object, and
     /// confirmed there. To be called before an object is set.
     void RecordIn(const std::shared_ptr<AttributeChanges>& changes) { sharedChanges_ = changes; }
+    /// Called after each event of the host that was followed; none to be told no longer.
+    void TellFollowed(std::function<void()> followed) { followed_ = std::move(followed); }
 
   private:
     // prop_control.cpp: members, host and object
@@ -56,11 +59,12 @@ class PropControl final
 
     void SetObject(const ComPtr<IDispatch>& object);
     void TakeObject(const ComPtr<IDispatch>& object);
+    void FollowChange();
     void FollowSelection(IVandraX* host);
+    void ReopenEditor();
     bool ObjectIsThere();
     bool IsInspected(IDispatch* object);
     bool ConfirmationWanted();
-    void AnswerClosing(long answer);
 
     // prop_control_list.cpp: tabs, list, editor
     void ShowObject();
@@ -106,6 +110,7 @@ class PropControl final
     std::wstring path_;
     std::shared_ptr<AttributeChanges> changes_;
     std::shared_ptr<AttributeChanges> sharedChanges_;  ///< Of the inspector that this one serves, if any.
+    std::function<void()> followed_;
     std::shared_ptr<InspectorDialog> dialog_;
     Language dialogLanguage_ = Language::English;
     ValueDlgPointer editor_;

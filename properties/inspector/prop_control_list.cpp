@@ -75,8 +75,13 @@ void PropControl::ShowObject() {
     ListRefill refill(dialog_);
     dialog_->SetDescription({});
     if (!object_ || !Host()) return dialog_->RemoveTabs();
-    const std::vector<AttributeRow> rows = ReadRows();
+    std::vector<AttributeRow> rows;
+    const HRESULT read = Guard(IID_NULL, [&] { rows = ReadRows(); });
     if (stage != objectStage_ || !DialogWindow() || !object_) return;
+    if (FAILED(read)) {
+        dialog_->RemoveTabs();
+        throw ComError(read, TakeErrorText(read));
+    }
     const std::vector<wchar_t> tabs = TabsOf(rows);
     dialog_->SetTabs(tabs, TabToSelect(tabs, Memory().Category()));
     FillList(rows, std::move(refill));
@@ -106,6 +111,7 @@ std::vector<AttributeRow> PropControl::ReadRows() {
 void PropControl::FillList(const std::vector<AttributeRow>& rows, ListRefill refill) {
     const wchar_t tab = dialog_->CurrentTab();
     Memory().SetCategory(static_cast<std::uint32_t>(tab));
+    dialog_->ClearList();  // reading the rows may have let another filling in
     std::vector<std::wstring> names;
     for (const AttributeRow& row : rows) {
         if (!IsIn(row, tab)) continue;
@@ -171,7 +177,6 @@ void PropControl::OpenEditor(long index) {
 void PropControl::ShowEditor(const ValueDlgPointer& editor) {
     dialog_->SetSeveralValues(editor->ShowsSeveralValues());
     PlaceEditor();
-    ShowWindow(editor->Handle(), SW_SHOWNA);
 }
 
 void PropControl::PlaceEditor() {
@@ -180,6 +185,8 @@ void PropControl::PlaceEditor() {
     // Behind the list in the order of the Tab key, but above the frame around it, which would cover it.
     SetWindowPos(editor_->Handle(), dialog_->BeforeEditor(), bounds.left, bounds.top,
                  bounds.right - bounds.left, bounds.bottom - bounds.top, SWP_NOACTIVATE);
+    // Without room it is out of the keyboard's way too.
+    ShowWindow(editor_->Handle(), IsRectEmpty(&bounds) ? SW_HIDE : SW_SHOWNA);
 }
 
 /// What waits in the editor is written first. That may run anything: look again at all afterwards.

@@ -41,7 +41,8 @@ void PropControl::MakeDialog() {
     dialog_ = qz::MakeDialog<InspectorDialog>(static_cast<InspectorDialogListener&>(*this), dialogLanguage_);
     dialog_->Create(WindowHandle());
     dialog_->Arrange(ClientSize());
-    ShowObject();
+    // An object that gives no attributes is no reason to have no window; nobody has asked for it here.
+    if (FAILED(Guard(IID_NULL, [this] { ShowObject(); }))) ShowErrorInDebugger();
 }
 
 void PropControl::OnSized(SIZE client) {

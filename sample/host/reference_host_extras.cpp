@@ -73,7 +73,7 @@ STDMETHODIMP MemoryHost::SetScopedAttribute(BSTR path, BSTR attribute, VARIANT v
         LateBound::HostSetScopedAttribute,
         [&] {
             Document& document = Model().Doc();
-            if (Require(path).id != document.Settings())
+            if (Require(path) != ObjectKey{ObjectKey::Kind::Object, document.Settings()})
                 Throw(E_INVALIDARG, L"Only \"Document\" has a page setup");
             if (scope < 0 || scope > 2) Throw(E_INVALIDARG, L"There is no such scope");
             const int32_t current = document.pages.NumberOf(Model().CurrentPage().id);

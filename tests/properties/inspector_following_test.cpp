@@ -1,5 +1,6 @@
 // The inspector and its host: what is selected, what vanishes, what a host without offers.
 #include "tests/properties/inspector_fixture.h"
+#include "tests/support/during_modal.h"
 
 namespace qz {
 namespace {
@@ -151,6 +152,39 @@ TEST_F(InspectorFollows, ChangesStayUnlessTheDocumentWantsTheQuestion) {
     EXPECT_EQ(pane->get_VandraX(&hostOfPane), S_OK);
     EXPECT_EQ(hostOfPane.Get(), nullptr);
     EXPECT_EQ(events->TakeEvents(), (Events{"3", "1", "2", "1", "2", "3"}));
+}
+
+TEST_F(InspectorFollows, TheQuestionIsAboutTheObjectItWasAskedFor) {
+    Create(typeField, L"F");
+    Create(typeField, L"G");
+    SetValue(L"Document", L"AlwaysConfirmAttributeChanges", 1L);
+    Open();
+    Select(L"Objects[F]");
+    ASSERT_TRUE(Choose(L"Locked"));
+    Click(Field(QZ_EDITOR_CHECK));
+    const DuringModal during([&] {
+        Select(L"Objects[G]");
+        PostMessageW(FindWindowW(L"#32770", L"Attribute Changes Confirmation..."), WM_COMMAND, IDNO, 0);
+    });
+    long answer = 0;
+    EXPECT_EQ(pane->Closing(&answer), S_OK);
+    EXPECT_EQ(answer, IDNO);
+    EXPECT_FALSE(static_cast<bool>(Value(L"Objects[F]", L"Locked")));
+    EXPECT_EQ(InspectedPath(), L"Objects[G]");
+}
+
+TEST_F(InspectorFollows, ObjectsMayComeBeforeTheHostAndTheWindow) {
+    const auto field = Create(typeField, L"F");
+    Inspect(field);
+    ASSERT_EQ(pane->put_VandraX(host.Get()), S_OK);
+    EXPECT_EQ(SelectionName(), L"<no-object>") << "a host starts without";
+    Inspect(field);
+    host->FailOperation(_bstr_t(L"Object.Attributes"), E_FAIL);
+    window.emplace(pane.Get(), SIZE{320, 480});
+    EXPECT_EQ(Names(), Texts());
+    host->ClearFaults();
+    Inspect(field);
+    EXPECT_NE(Names(), Texts());
 }
 
 TEST_F(InspectorFollows, HostFailsAtAnyOneCall) {

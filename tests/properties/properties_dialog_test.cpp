@@ -90,6 +90,12 @@ TEST_F(PropertiesDialogTest, ModelessShowsObjectsOfItsList) {
     const HWND window = Window();
     ASSERT_NE(window, nullptr);
     EXPECT_EQ(TextOf(window), L"Properties for: F");
+    Select(L"Objects[F]");
+    Create(typeField, L"G");
+    Select(L"Objects[G]", true);
+    EXPECT_EQ(TextOf(window), L"Properties for: <multiple-selection>");
+    Select(L"Objects[F]");
+    EXPECT_EQ(TextOf(window), L"Properties for: F");
     EXPECT_GT(Listed(), 20u);
     EXPECT_EQ(dialog->DoModeless(Owner()), S_OK);
     EXPECT_EQ(Window(), window) << "the same one again";
@@ -97,7 +103,6 @@ TEST_F(PropertiesDialogTest, ModelessShowsObjectsOfItsList) {
     EXPECT_EQ(dialog->AddObject(_bstr_t(L"Document")), S_OK);
     EXPECT_EQ(dialog->AddObject(_bstr_t(L"Nothing")), S_OK);
     EXPECT_EQ(SendDlgItemMessageW(window, QZ_PROPERTIES_OBJECTS, CB_GETCOUNT, 0, 0), 3);
-    Select(L"Objects[F]");
     ChooseObject(1);
     EXPECT_EQ(CallCount(host.Get(), L"SelectObjects"), 1);
     EXPECT_GE(CallCount(host.Get(), L"Object.Update"), 1);
@@ -135,6 +140,18 @@ TEST_F(PropertiesDialogTest, PlaceIsKeptWithinLimits) {
     EXPECT_EQ(Saved(L"top"), 50);
     EXPECT_EQ(Saved(L"right"), 490);
     EXPECT_EQ(Saved(L"bottom"), 550);
+}
+
+TEST_F(PropertiesDialogTest, KeysOfAMenuAreNotTheDialogs) {
+    ASSERT_EQ(dialog->DoModeless(Owner()), S_OK);
+    SetFocus(GetDlgItem(InnerDialog(), QZ_INSPECTOR_LIST));
+    const HMENU menu = CreatePopupMenu();
+    AppendMenuW(menu, MF_STRING, 1, L"Entry");
+    const DuringModal during([] { PostMessageW(GetFocus(), WM_KEYDOWN, VK_ESCAPE, 0); });
+    EXPECT_EQ(TrackPopupMenu(menu, TPM_RETURNCMD, 10, 10, 0, Window(), nullptr), FALSE);
+    DestroyMenu(menu);
+    PumpMessages();
+    EXPECT_NE(Window(), nullptr);
 }
 
 TEST_F(PropertiesDialogTest, PlaceIsNotSavedWhenNotWanted) {

@@ -364,6 +364,9 @@ TEST_F(ValueEdit, SomeOfTheSelectionLacksTheAttributeOrIsNotTold) {
     ASSERT_TRUE(Choose(L"Own"));
     ASSERT_NE(Editor(), nullptr);
     EXPECT_EQ(Shown(), L"1");
+    Type(Text(), L"5");
+    LetWritingHappen();
+    EXPECT_EQ(static_cast<long>(Value(L"Objects[F]", L"Own")), 5);
     host->FailOperation(_bstr_t(L"SelectedObjects"), E_NOTIMPL);
     _variant_t current;
     ASSERT_EQ(host->GetCurrentObject(&current), S_OK);
