@@ -48,9 +48,10 @@ struct MemberValue {
 
 /// What an editor starts from.
 struct AttributeValues {
-    _variant_t value;                  ///< Of the inspected object.
-    std::vector<MemberValue> members;  ///< Of all selected objects that have it, when several are edited together.
-    bool differ = false;               ///< The members do not all have the same value.
+    _variant_t value;  ///< Of the inspected object.
+    std::vector<MemberValue>
+        members;          ///< Of all selected objects that have it, when several are edited together.
+    bool differ = false;  ///< The members do not all have the same value.
     /// How many objects are selected and edited together, of which the host does not tell the others; else 0.
     long untold = 0;
 };

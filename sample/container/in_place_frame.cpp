@@ -77,7 +77,7 @@ STDMETHODIMP InPlaceFrame::SetStatusText(LPCOLESTR text) {
     });
 }
 
-/// The program has no modeless windows that would have to be kept still during a control's dialog.
+/// The one modeless window of the program is a dialog of another control, which may well be used meanwhile.
 STDMETHODIMP InPlaceFrame::EnableModeless(BOOL) { return S_OK; }
 
 STDMETHODIMP InPlaceFrame::TranslateAccelerator(LPMSG message, WORD) {

@@ -150,6 +150,8 @@ LRESULT MainWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_THEMECHANGED:
             OnSettingsChanged();
             return 0;
+        case WM_CLOSE:
+            return workspace_ && !workspace_->MayClose() ? 0 : Default(message, wParam, lParam);
         case WM_DESTROY:
             OnClosing();
             PostQuitMessage(0);

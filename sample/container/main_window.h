@@ -87,7 +87,7 @@ class MainWindow final : public AppWindow, private FrameShell {
     void SelectAllObjects() { host_->SelectAllObjects(); }
     void ShowObjectProperties();
     void ShowDocumentProperties();
-    void MakePropertiesDialog();
+    ComPtr<IDispatch> MakePropertiesDialog() const;
 
     // main_window_tools.cpp
     void ShowDocumentSettings();
@@ -103,7 +103,7 @@ class MainWindow final : public AppWindow, private FrameShell {
     std::optional<bool> answer_;
     std::unique_ptr<HostView> host_;
     std::unique_ptr<Workspace> workspace_;
-    ComPtr<IDispatch> properties_;  ///< The properties dialog, once it was called for.
+    ComPtr<IDispatch> properties_;  ///< The modeless properties dialog, once it was called for.
     long gridSteps_ = 0;            ///< As the grid's dialog was left, in twips.
     HACCEL keys_ = nullptr;
     HWND focusBefore_ = nullptr;  ///< Where the focus was when the window was left.

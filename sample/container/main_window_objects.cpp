@@ -16,19 +16,18 @@ _variant_t HandleVariant(HWND window) { return _variant_t(HandleToLong(window));
 
 }  // namespace
 
-/// A new one each time that it is called for on a document: the dialog of before may still be in use.
-void MainWindow::MakePropertiesDialog() {
-    properties_ = nullptr;
+ComPtr<IDispatch> MainWindow::MakePropertiesDialog() const {
     ComPtr<IDispatch> dialog;
     RequireSuccess(
         CoCreateInstance(CLSID_qzPropertiesDlg, nullptr, CLSCTX_INPROC_SERVER, IID_PPV_ARGS(&dialog)),
         L"The properties dialog cannot be created");
     PutProperty(dialog.Get(), L"VandraX", _variant_t(host_->Automation()));
-    properties_ = dialog;
+    return dialog;
 }
 
+/// The window goes with the last reference, so the dialog is kept; called for again it shows another object.
 void MainWindow::ShowObjectProperties() {
-    MakePropertiesDialog();
+    if (!properties_) properties_ = MakePropertiesDialog();
     const ComPtr<IDispatch> dialog = properties_;
     PutProperty(dialog.Get(), L"AlwaysVisible", 1L);
     PutProperty(dialog.Get(), L"Object", _variant_t(host_->SelectedOrDocument().Get()));
@@ -41,8 +40,7 @@ void MainWindow::ShowObjectProperties() {
 }
 
 void MainWindow::ShowDocumentProperties() {
-    MakePropertiesDialog();
-    const ComPtr<IDispatch> dialog = properties_;
+    const ComPtr<IDispatch> dialog = MakePropertiesDialog();
     PutProperty(dialog.Get(), L"Object", _variant_t(host_->Document().Get()));
     CallMethod(dialog.Get(), L"DoModal", {HandleVariant(Handle())});
 }

@@ -54,6 +54,13 @@ void Workspace::Inspect(const ComPtr<IDispatch>& object) const {
     }
 }
 
+bool Workspace::MayClose() const {
+    return std::ranges::none_of(PanesOf(CLSID_qzPropCtrl), [](const Pane* pane) {
+        const _variant_t answer = CallMethod(pane->Control().Get(), L"Closing");
+        return answer.vt == VT_I4 && answer.lVal == IDCANCEL;
+    });
+}
+
 std::vector<Pane*> Workspace::PanesOf(REFCLSID classId) const {
     std::vector<Pane*> found;
     for (const auto& pane : panes_) {

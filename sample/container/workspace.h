@@ -27,6 +27,8 @@ class Workspace final : public AppWindow {
     void Inspect(const ComPtr<IDispatch>& object) const;
     /// The panes whose control is of that class.
     std::vector<Pane*> PanesOf(REFCLSID classId) const;
+    /// Asks the inspectors, which may ask the user whether he wants to keep his changes.
+    bool MayClose() const;
     void EnvironmentChanged();
 
     /// Gives the focus to the next part, or the one before; the parts are the panes and the host's view.
