@@ -147,7 +147,7 @@ void PropertiesWindow::CloseInspector() noexcept {
 void PropertiesWindow::HearInspector(DISPID event) {
     // No message of the window holds it here, and what follows asks the host.
     const ComPtr<IUnknown> owner = owner_;
-    const std::shared_ptr<Dialog> self = shared_from_this();
+    const std::shared_ptr<Dialog> self = weak_from_this().lock();
     if (event == openingChildDialog) ++childDialogs_;
     if (event == closingChildDialog && childDialogs_ > 0) --childDialogs_;
     if (event == selectedObjectChanged) ShowCaption();

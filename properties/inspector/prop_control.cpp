@@ -94,6 +94,7 @@ STDMETHODIMP PropControl::Closing(long* pAnswer) {
         // The question is about these, also if another object is selected meanwhile.
         const std::shared_ptr<AttributeChanges> changes = changes_;
         const std::shared_ptr<HostMembers> members = members_;
+        if (!changes || !members) return;  // the host has taken the object away meanwhile
         OpeningChildDialog();
         const int answer = ShowMessage(LoadText(TextLanguage(), QZ_TEXT_KEEP_CHANGES),
                                        LoadText(TextLanguage(), QZ_TEXT_KEEP_CHANGES_CAPTION),
