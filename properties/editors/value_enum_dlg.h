@@ -32,7 +32,6 @@ class CValueEnumDlg final : public CValueDlg {
     void CheckNumber(std::optional<double> number) const;
     void Choose(std::size_t index);
 
-    void Arrange();
     void ScrollTo(int position);
     void OnScrollBar(WORD command);
     void OnWheel(int delta);
