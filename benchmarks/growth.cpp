@@ -10,21 +10,23 @@ namespace {
 
 constexpr long fewPages = 1'000;
 constexpr long manyPages = 100'000;
-constexpr SIZE client{220, 600};
-constexpr PageSize letter{12240, 15840};
-constexpr long factor = 14;
+constexpr SIZE growthClient{220, 600};
+constexpr PageSize growthLetter{12240, 15840};
+constexpr long growthFactor = 14;
 
 /// What a pane paints, without the window around it, which costs far more and would hide a walk over all
 /// pages. Scrolled to the middle of the document, so that neither end is near.
 class WindowlessPane {
   public:
     explicit WindowlessPane(long pages) : host_(MakeHost(pages)) {
-        model_.SetClientSize(client.cx, client.cy);
-        model_.SetRecords({static_cast<std::size_t>(pages), MakeThumbnail(letter, factor)});
+        model_.SetClientSize(growthClient.cx, growthClient.cy);
+        model_.SetRecords({static_cast<std::size_t>(pages), MakeThumbnail(growthLetter, growthFactor)});
         model_.ScrollTo(model_.ContentHeight() / 2);
     }
 
-    void Paint() { painter_.Paint(canvas_.Dc(), {0, 0, client.cx, client.cy}, host_.Get(), factor); }
+    void Paint() {
+        painter_.Paint(canvas_.Dc(), {0, 0, growthClient.cx, growthClient.cy}, host_.Get(), growthFactor);
+    }
 
     /// Two steps, so that every run finds the same place.
     void ScrollForthAndBack() {
@@ -37,7 +39,7 @@ class WindowlessPane {
     /// Tests 60 points all over the client area.
     std::size_t HitTestAll() const {
         std::size_t hits = 0;
-        for (std::int32_t y = 0; y < client.cy; y += 60) {
+        for (std::int32_t y = 0; y < growthClient.cy; y += 60) {
             for (std::int32_t x = 0; x < 210; x += 35) hits += model_.HitTest(x, y).has_value();
         }
         return hits;
@@ -47,7 +49,7 @@ class WindowlessPane {
     ComPtr<IReferenceHost> host_;
     ThumbnailModel model_;
     ThumbnailPainter painter_{model_};
-    Canvas canvas_{client.cx, client.cy};
+    Canvas canvas_{growthClient.cx, growthClient.cy};
 };
 
 void ScrollToMiddle(const HostedPane& pane, long pages) {

@@ -10,7 +10,7 @@ namespace {
 
 using Kind = NumberToken::Kind;
 
-bool IsPlaceholder(PatternSign sign) { return sign.Is(L'0') || sign.Is(L'#'); }
+bool HoldsDigit(PatternSign sign) { return sign.Is(L'0') || sign.Is(L'#'); }
 
 /// Without regard to case, and only when no sign of it is quoted.
 bool IsGeneralNumber(std::span<const PatternSign> signs) {
@@ -38,7 +38,7 @@ class SectionReader {
 
     void ReadSign() {
         const PatternSign sign = signs_[at_];
-        if (IsPlaceholder(sign) && part_ != Part::AfterExponent) return AddPlaceholder(sign);
+        if (HoldsDigit(sign) && part_ != Part::AfterExponent) return AddPlaceholder(sign);
         if (sign.Is(L'.') && part_ == Part::Integer) return AddPoint();
         if (sign.Is(L',') && CommaCounts()) return AddComma();
         if (ExponentLength() > 0) return AddExponent();
@@ -73,7 +73,7 @@ class SectionReader {
     bool CommaCounts() const {
         if (part_ != Part::Integer) return false;
         const bool afterComma = at_ > 0 && at_ == commaEnd_;
-        return at_ == 0 || afterComma || IsPlaceholder(signs_[at_ - 1]);
+        return at_ == 0 || afterComma || HoldsDigit(signs_[at_ - 1]);
     }
 
     /// Groups when a placeholder of the integer part follows, else scales.
@@ -89,7 +89,7 @@ class SectionReader {
         if (rest.size() < 3 || !(rest[0].Is(L'E') || rest[0].Is(L'e'))) return 0;
         if (!(rest[1].Is(L'+') || rest[1].Is(L'-'))) return 0;
         std::size_t length = 2;
-        while (length < rest.size() && IsPlaceholder(rest[length])) ++length;
+        while (length < rest.size() && HoldsDigit(rest[length])) ++length;
         return length > 2 ? length : 0;
     }
 

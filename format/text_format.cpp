@@ -5,7 +5,7 @@
 namespace qz {
 namespace {
 
-bool IsPlaceholder(PatternSign sign) { return sign.Is(L'@') || sign.Is(L'&'); }
+bool HoldsCharacter(PatternSign sign) { return sign.Is(L'@') || sign.Is(L'&'); }
 
 /// The characters of a text; the two halves of a surrogate pair are one.
 std::vector<std::wstring_view> Characters(std::wstring_view text) {
@@ -62,7 +62,7 @@ TextFormat::Section::Section(std::span<const PatternSign> all) {
         fromLeft |= left;
         takesText |= upper || lower || left;
         if (!upper && !lower && !left) signs.push_back(sign);
-        if (IsPlaceholder(sign)) ++placeholders;
+        if (HoldsCharacter(sign)) ++placeholders;
     }
     takesText &= placeholders == 0;
 }
@@ -76,7 +76,7 @@ std::wstring TextFormat::Fill(const Section& section, std::wstring_view text) {
     TextDealer dealer(text, section.placeholders, section.fromLeft);
     std::wstring out;
     for (const PatternSign sign : section.signs) {
-        if (IsPlaceholder(sign)) {
+        if (HoldsCharacter(sign)) {
             dealer.Deal(sign.sign == L'@', out);
         } else {
             out += sign.sign;

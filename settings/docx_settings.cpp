@@ -4,7 +4,7 @@ namespace qz {
 
 namespace {
 
-constexpr SettingsRow rows[] = {
+constexpr SettingsRow docxRows[] = {
     {L"Standard:OutputFileName", L"", &zrDocxSettings::outputFileName},
     {L"Standard:PageWidth", 12240, &zrDocxSettings::pageWidth},
     {L"Standard:PageHeight", 15840, &zrDocxSettings::pageHeight},
@@ -105,10 +105,10 @@ constexpr SettingsRow rows[] = {
     {L"ExportToPDF:Enabled", false},
     {L"ExportToDOCX:Enabled", false}};
 
-constexpr SettingsTable table{L"zrDocxSettings", L"DOCXSettings", "WriteDOCXDlgSettingsToFile", rows};
+constexpr SettingsTable docxTable{L"zrDocxSettings", L"DOCXSettings", "WriteDOCXDlgSettingsToFile", docxRows};
 
 }  // namespace
 
-zrDocxSettings::zrDocxSettings() : zrSettings(table) { ReadAll(); }
+zrDocxSettings::zrDocxSettings() : zrSettings(docxTable) { ReadAll(); }
 
 }  // namespace qz

@@ -4,7 +4,7 @@ namespace qz {
 
 namespace {
 
-constexpr SettingsRow rows[] = {
+constexpr SettingsRow nUpRows[] = {
     {L"Dest_PaperSize:KeepOriginal", false, &zrNUpSettings::keepOriginal},
     {L"Dest_PaperSize:Predefined", 0},
     {L"Dest_PaperSize:UserDefined", false},
@@ -22,10 +22,10 @@ constexpr SettingsRow rows[] = {
     {L"Source:Scale", 1, &zrNUpSettings::scale},
     {L"Source:ScaleCustomValue", 100, &zrNUpSettings::scaleCustomValue}};
 
-constexpr SettingsTable table{L"zrNUpSettings", L"NUPSettings", "WriteNUpDlgSettingsToFile", rows};
+constexpr SettingsTable nUpTable{L"zrNUpSettings", L"NUPSettings", "WriteNUpDlgSettingsToFile", nUpRows};
 
 }  // namespace
 
-zrNUpSettings::zrNUpSettings() : zrSettings(table) { ReadAll(); }
+zrNUpSettings::zrNUpSettings() : zrSettings(nUpTable) { ReadAll(); }
 
 }  // namespace qz

@@ -7,6 +7,11 @@
 
 namespace qz {
 
+/// A length given in pixels at 96 dpi, at another resolution.
+constexpr std::int32_t Scaled(std::int32_t pixelsAt96, std::int32_t dpi) noexcept {
+    return pixelsAt96 * dpi / 96;
+}
+
 struct Point {
     std::int32_t x = 0;
     std::int32_t y = 0;

@@ -14,10 +14,10 @@ namespace qz {
 
 namespace {
 
-constexpr ListColumn columns[] = {{QZ_TEXT_FONT_NAME_COLUMN, 40},
-                                  {QZ_TEXT_FONT_TYPE_COLUMN, 16},
-                                  {QZ_TEXT_EMBEDDING_COLUMN, 24},
-                                  {QZ_TEXT_ENCODING_COLUMN, 20}};
+constexpr ListColumn fontColumns[] = {{QZ_TEXT_FONT_NAME_COLUMN, 40},
+                                      {QZ_TEXT_FONT_TYPE_COLUMN, 16},
+                                      {QZ_TEXT_EMBEDDING_COLUMN, 24},
+                                      {QZ_TEXT_ENCODING_COLUMN, 20}};
 
 constexpr wchar_t namelessFont[] = L"\n**** A font object was found having no FontName attribute value\n";
 
@@ -46,7 +46,7 @@ CDocSettingsDlgTab4::CDocSettingsDlgTab4(const SettingsSource& source, Language 
 
 void CDocSettingsDlgTab4::OnInit() {
     levels_ = {Text(QZ_TEXT_NO_EMBEDDING), Text(QZ_TEXT_PARTIAL_EMBEDDING), Text(QZ_TEXT_FULL_EMBEDDING)};
-    AddColumns(Item(QZ_FONTS_LIST), columns, TextLanguage());
+    AddColumns(Item(QZ_FONTS_LIST), fontColumns, TextLanguage());
     keys_.Watch(Handle());
 }
 
@@ -184,7 +184,7 @@ void CDocSettingsDlgTab4::SortBy(FontColumn column) {
 
 void CDocSettingsDlgTab4::ShowOrder() const {
     const auto header = reinterpret_cast<HWND>(SendItem(QZ_FONTS_LIST, LVM_GETHEADER));
-    for (int place = 0; place < static_cast<int>(std::size(columns)); ++place) {
+    for (int place = 0; place < static_cast<int>(std::size(fontColumns)); ++place) {
         HDITEMW item{};
         item.mask = HDI_FORMAT;
         SendMessageW(header, HDM_GETITEMW, static_cast<WPARAM>(place), reinterpret_cast<LPARAM>(&item));

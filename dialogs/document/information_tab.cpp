@@ -13,13 +13,13 @@ namespace qz {
 
 namespace {
 
-constexpr const wchar_t* fields[CDocSettingsDlgTab1::fieldCount] = {L"Title",   L"Subject",  L"Author",
-                                                                    L"Creator", L"Keywords", L"Producer"};
+constexpr const wchar_t* informationFields[CDocSettingsDlgTab1::fieldCount] = {
+    L"Title", L"Subject", L"Author", L"Creator", L"Keywords", L"Producer"};
 
-constexpr std::size_t longestText = 512;  // characters, 1024 bytes
+constexpr std::size_t longestInformation = 512;  // characters, 1024 bytes
 constexpr long informationCategory = 'I';
 
-constexpr ListColumn columns[] = {{QZ_TEXT_INFO_NAME_COLUMN, 35}, {QZ_TEXT_INFO_VALUE_COLUMN, 65}};
+constexpr ListColumn informationColumns[] = {{QZ_TEXT_INFO_NAME_COLUMN, 35}, {QZ_TEXT_INFO_VALUE_COLUMN, 65}};
 
 int ControlOf(std::size_t field) noexcept { return QZ_INFO_TITLE + static_cast<int>(field); }
 
@@ -30,13 +30,14 @@ CDocSettingsDlgTab1::CDocSettingsDlgTab1(const SettingsSource& source, Language 
 
 void CDocSettingsDlgTab1::OnInit() {
     for (std::size_t field = 0; field < fieldCount; ++field) {
-        controls_[field].Take(Item(ControlOf(field)), longestText);
+        controls_[field].Take(Item(ControlOf(field)), longestInformation);
     }
-    AddColumns(Item(QZ_INFO_FURTHER), columns, TextLanguage());
+    AddColumns(Item(QZ_INFO_FURTHER), informationColumns, TextLanguage());
 }
 
 void CDocSettingsDlgTab1::Fill() {
-    for (std::size_t field = 0; field < fieldCount; ++field) ShowText(field, ReadText(fields[field]));
+    for (std::size_t field = 0; field < fieldCount; ++field)
+        ShowText(field, ReadText(informationFields[field]));
     ListFurther();
 }
 
@@ -79,16 +80,18 @@ void CDocSettingsDlgTab1::Write() {
     for (std::size_t field = 0; field < fieldCount; ++field) entered[field] = Entered(field);
     for (std::size_t field = 0; field < fieldCount; ++field) {
         if (!entered[field]) continue;
-        Objects().SetAttribute(Source().document.Get(), fields[field], TextVariant(*entered[field]));
+        Objects().SetAttribute(Source().document.Get(), informationFields[field],
+                               TextVariant(*entered[field]));
     }
 }
 
 /// Nothing for a field that the document did not tell and the user left empty.
 std::optional<std::wstring> CDocSettingsDlgTab1::Entered(std::size_t field) const {
     const std::wstring now = ItemText(ControlOf(field));
-    if (filled_[field]) return EnteredText(now, filled_[field]->shown, filled_[field]->source, longestText);
+    if (filled_[field])
+        return EnteredText(now, filled_[field]->shown, filled_[field]->source, longestInformation);
     if (now.empty()) return std::nullopt;
-    return now.substr(0, longestText);
+    return now.substr(0, longestInformation);
 }
 
 }  // namespace qz

@@ -26,7 +26,7 @@ struct UnitTexts {
     unsigned margins;
 };
 
-constexpr std::size_t longestText = 1024;  // characters
+constexpr std::size_t longestSize = 1024;  // characters
 
 /// What was chosen last, in whatever document.
 std::atomic<PageScope> lastScope = PageScope::All;
@@ -67,7 +67,7 @@ void CDocSettingsDlgTab3::OnInit() {
     AppendTexts(QZ_SETUP_PAPER, QZ_TEXT_PAPER_1, paperCount);
     AppendText(QZ_SETUP_PAPER, QZ_TEXT_CUSTOM_SIZE);
     AppendTexts(QZ_SETUP_BIN, QZ_TEXT_BIN_1, binCount);
-    for (const SizeControl& control : sizeControls) SendItem(control.id, EM_SETLIMITTEXT, longestText);
+    for (const SizeControl& control : sizeControls) SendItem(control.id, EM_SETLIMITTEXT, longestSize);
     shownScope_ = lastScope;
     SendItem(ButtonOf(shownScope_), BM_SETCHECK, BST_CHECKED);
     ShowSetup();
@@ -180,7 +180,7 @@ SetupEntries CDocSettingsDlgTab3::Entries() const {
     entries.paper = ChosenPaper();
     entries.bin = static_cast<int>(SendItem(QZ_SETUP_BIN, CB_GETCURSEL)) + 1;
     for (const SizeControl& control : sizeControls) {
-        entries.sizes[control.place] = ItemText(control.id).substr(0, longestText);
+        entries.sizes[control.place] = ItemText(control.id).substr(0, longestSize);
     }
     return entries;
 }

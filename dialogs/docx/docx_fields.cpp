@@ -13,7 +13,7 @@ constexpr std::int32_t mostCode = 2147483647;  // what codes mean is the exporte
 constexpr std::int32_t mostLength = 288000;    // twips: 200 inches
 
 // clang-format off
-constexpr SettingField fields[] = {
+constexpr SettingField docxFields[] = {
     {L"Standard:OutputFileName", FieldKind::Text, QZ_TEXT_DOCX_STANDARD_OUTPUT_FILE_NAME},
     {L"Standard:PageWidth", FieldKind::Length, QZ_TEXT_DOCX_STANDARD_PAGE_WIDTH, 144, mostLength},
     {L"Standard:PageHeight", FieldKind::Length, QZ_TEXT_DOCX_STANDARD_PAGE_HEIGHT, 144, mostLength},
@@ -130,13 +130,13 @@ constexpr DocxPage pages[] = {
 
 const SettingField* Find(std::wstring_view key) noexcept {
     const auto* const found =
-        std::ranges::find_if(fields, [&](const SettingField& field) { return field.key == key; });
-    return found == std::end(fields) ? nullptr : found;
+        std::ranges::find_if(docxFields, [&](const SettingField& field) { return field.key == key; });
+    return found == std::end(docxFields) ? nullptr : found;
 }
 
 }  // namespace
 
-std::span<const SettingField> DocxFields() noexcept { return fields; }
+std::span<const SettingField> DocxFields() noexcept { return docxFields; }
 
 std::span<const DocxPage> DocxPages() noexcept { return pages; }
 
@@ -151,11 +151,11 @@ const SettingField* DocxGateOf(const SettingField& field) noexcept {
     if (field.enabledBy) return Find(field.enabledBy);
     const std::wstring_view key = field.key;
     const std::wstring_view section = key.substr(0, key.find(L':') + 1);
-    const auto* const gate = std::ranges::find_if(fields, [&](const SettingField& each) {
+    const auto* const gate = std::ranges::find_if(docxFields, [&](const SettingField& each) {
         const std::wstring_view other = each.key;
         return other.starts_with(section) && other.substr(section.size()) == L"Enabled";
     });
-    return gate == std::end(fields) || gate == &field ? nullptr : gate;
+    return gate == std::end(docxFields) || gate == &field ? nullptr : gate;
 }
 
 }  // namespace qz

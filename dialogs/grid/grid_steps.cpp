@@ -1,5 +1,7 @@
 #include "dialogs/grid/grid_steps.h"
 
+#include "host/units.h"
+
 #include <algorithm>
 #include <limits>
 
@@ -7,15 +9,10 @@ namespace qz {
 
 namespace {
 
-constexpr std::int64_t most = std::numeric_limits<std::int32_t>::max();
-constexpr std::int64_t least = std::numeric_limits<std::int32_t>::min();
+constexpr std::int64_t mostSteps = std::numeric_limits<std::int32_t>::max();
 
-constexpr std::int64_t twipsInInch = 1440;
-constexpr std::int64_t tenTwipsInInch = 14400;
-constexpr std::int64_t tenthsOfMillimeterInInch = 254;
-
-std::int32_t Clamped(std::int64_t number) noexcept {
-    return static_cast<std::int32_t>(std::clamp(number, least, most));
+std::int32_t Clamped(std::int64_t twips) noexcept {
+    return static_cast<std::int32_t>(std::clamp<std::int64_t>(twips, -mostSteps - 1, mostSteps));
 }
 
 }  // namespace
@@ -24,7 +21,7 @@ std::int32_t StepsOf(std::wstring_view text) noexcept {
     std::int64_t number = 0;
     for (const wchar_t sign : text) {
         if (sign < L'0' || sign > L'9') break;
-        number = std::min(number * 10 + (sign - L'0'), most);
+        number = std::min(number * 10 + (sign - L'0'), mostSteps);
     }
     return static_cast<std::int32_t>(number);
 }
@@ -34,9 +31,9 @@ std::int32_t StepsInTwips(std::int32_t steps, GridUnit unit) noexcept {
         case GridUnit::Twips:
             return steps;
         case GridUnit::Inches:
-            return Clamped(steps * twipsInInch);
+            return Clamped(std::int64_t{steps} * 1440);
         case GridUnit::Millimeters:
-            return Clamped(steps * tenTwipsInInch / tenthsOfMillimeterInInch);
+            return Clamped(TwipsFromMillimetres(steps));
     }
     return 0;
 }

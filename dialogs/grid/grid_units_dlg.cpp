@@ -14,7 +14,7 @@ namespace qz {
 namespace {
 
 constexpr int mostSteps = 32767;  // of the arrows; more can be typed
-constexpr std::size_t longestText = 32;
+constexpr std::size_t longestSteps = 32;
 
 struct UnitEntry {
     GridUnit unit;
@@ -56,7 +56,7 @@ class GridDialog final : public Dialog {
     }
 
     long Entered() const {
-        const std::int32_t steps = StepsOf(ItemText(QZ_GRID_STEPS).substr(0, longestText));
+        const std::int32_t steps = StepsOf(ItemText(QZ_GRID_STEPS).substr(0, longestSteps));
         const LRESULT chosen = SendItem(QZ_GRID_UNIT, CB_GETCURSEL);
         if (chosen < 0) return steps;
         const LRESULT code = SendItem(QZ_GRID_UNIT, CB_GETITEMDATA, static_cast<WPARAM>(chosen));

@@ -32,6 +32,8 @@ constexpr std::int32_t leastSide = 720, mostSide = 288000;  // twips: half an in
 constexpr std::int32_t mostGap = 28800;
 constexpr std::int32_t mostPercent = 1000;
 
+/// The keys of the record that are named more than once.
+namespace keys {
 constexpr wchar_t predefined[] = L"Dest_PaperSize:Predefined";
 constexpr wchar_t userDefined[] = L"Dest_PaperSize:UserDefined";
 constexpr wchar_t orientation[] = L"Dest_PaperSize:Orientation";
@@ -42,21 +44,22 @@ constexpr wchar_t columns[] = L"Dest_NUp:Columns";
 constexpr wchar_t gap[] = L"Dest_NUp:InnerGap";
 constexpr wchar_t scale[] = L"Source:Scale";
 constexpr wchar_t percent[] = L"Source:ScaleCustomValue";
+}  // namespace keys
 
 // clang-format off
-constexpr NUpField fields[] = {
+constexpr NUpField nUpFields[] = {
     {Part::Paper, QZ_NUP_KEEP_ORIGINAL, {L"Dest_PaperSize:KeepOriginal", FieldKind::Check, QZ_TEXT_NUP_KEEP_ORIGINAL}},
-    {Part::Paper, QZ_NUP_WIDTH, {width, FieldKind::Length, QZ_TEXT_NUP_WIDTH, leastSide, mostSide}},
-    {Part::Paper, QZ_NUP_LENGTH, {length, FieldKind::Length, QZ_TEXT_NUP_HEIGHT, leastSide, mostSide}},
-    {Part::Pages, QZ_NUP_ROWS, {rows, FieldKind::Number, QZ_TEXT_NUP_ROWS, 1, mostNUpRows}},
-    {Part::Pages, QZ_NUP_COLUMNS, {columns, FieldKind::Number, QZ_TEXT_NUP_COLUMNS, 1, mostNUpRows}},
-    {Part::Pages, QZ_NUP_GAP, {gap, FieldKind::Length, QZ_TEXT_NUP_GAP, 0, mostGap}},
+    {Part::Paper, QZ_NUP_WIDTH, {keys::width, FieldKind::Length, QZ_TEXT_NUP_WIDTH, leastSide, mostSide}},
+    {Part::Paper, QZ_NUP_LENGTH, {keys::length, FieldKind::Length, QZ_TEXT_NUP_HEIGHT, leastSide, mostSide}},
+    {Part::Pages, QZ_NUP_ROWS, {keys::rows, FieldKind::Number, QZ_TEXT_NUP_ROWS, 1, mostNUpRows}},
+    {Part::Pages, QZ_NUP_COLUMNS, {keys::columns, FieldKind::Number, QZ_TEXT_NUP_COLUMNS, 1, mostNUpRows}},
+    {Part::Pages, QZ_NUP_GAP, {keys::gap, FieldKind::Length, QZ_TEXT_NUP_GAP, 0, mostGap}},
     {Part::Pages, QZ_NUP_COLUMNS_FIRST, {L"Dest_NUp:ColumnsFirst", FieldKind::Check, QZ_TEXT_NUP_COLUMNS_FIRST}},
     {Part::Pages, QZ_NUP_RIGHT_TO_LEFT, {L"Dest_NUp:RightToLeft", FieldKind::Check, QZ_TEXT_NUP_RIGHT_TO_LEFT}},
     {Part::Pages, QZ_NUP_BORDERS, {L"Dest_NUp:DrawBorders", FieldKind::Check, QZ_TEXT_NUP_BORDERS}},
     {Part::Pages, QZ_NUP_PERFORATION, {L"Dest_NUp:DrawPerforationLines", FieldKind::Check, QZ_TEXT_NUP_PERFORATION}},
     {Part::Pages, QZ_NUP_SKIP_CONTENT, {L"Dest_NUp:SkipPageContent", FieldKind::Check, QZ_TEXT_NUP_SKIP_CONTENT}},
-    {Part::Scale, QZ_NUP_PERCENT, {percent, FieldKind::Number, QZ_TEXT_NUP_CUSTOM_SCALE, 1, mostPercent}},
+    {Part::Scale, QZ_NUP_PERCENT, {keys::percent, FieldKind::Number, QZ_TEXT_NUP_CUSTOM_SCALE, 1, mostPercent}},
 };
 // clang-format on
 
@@ -72,11 +75,11 @@ struct NUpChoice {
 };
 
 constexpr NUpChoice choices[] = {
-    {Part::Paper, QZ_NUP_PORTRAIT, orientation, 0},
-    {Part::Paper, QZ_NUP_LANDSCAPE, orientation, landscape},
-    {Part::Scale, QZ_NUP_ACTUAL_SIZE, scale, actualSize},
-    {Part::Scale, QZ_NUP_FIT, scale, 1},
-    {Part::Scale, QZ_NUP_CUSTOM_SCALE, scale, customScale},
+    {Part::Paper, QZ_NUP_PORTRAIT, keys::orientation, 0},
+    {Part::Paper, QZ_NUP_LANDSCAPE, keys::orientation, landscape},
+    {Part::Scale, QZ_NUP_ACTUAL_SIZE, keys::scale, actualSize},
+    {Part::Scale, QZ_NUP_FIT, keys::scale, 1},
+    {Part::Scale, QZ_NUP_CUSTOM_SCALE, keys::scale, customScale},
 };
 
 constexpr int labels[] = {QZ_NUP_KEEP_ORIGINAL, QZ_NUP_PAPER_LABEL,   QZ_NUP_WIDTH_LABEL,
@@ -102,7 +105,7 @@ class NUpDialog final : public RecordDialog {
     // Opening
 
     void OnInit() override {
-        for (const NUpField& each : fields) {
+        for (const NUpField& each : nUpFields) {
             if (Offers(each.part)) Controls().Bind(each.field, Item(each.control));
         }
         SendItem(QZ_NUP_ROWS_SPIN, UDM_SETRANGE32, 1, mostNUpRows);
@@ -159,11 +162,11 @@ class NUpDialog final : public RecordDialog {
 
     void ListPapers(zrNUpSettings& record) const {
         const auto known = static_cast<std::int32_t>(std::size(nupPapers));
-        const std::int32_t chosen = record.GetInt(predefined).value_or(0);
+        const std::int32_t chosen = record.GetInt(keys::predefined).value_or(0);
         SendItem(QZ_NUP_PAPER, CB_RESETCONTENT);
         for (std::int32_t paper = 0; paper < known; ++paper) AppendPaper(nupPapers[paper].name, paper);
         AppendPaper(LoadText(TextLanguage(), QZ_TEXT_NUP_CUSTOM_SIZE), customPaper);
-        const bool custom = record.GetBool(userDefined).value_or(false);
+        const bool custom = record.GetBool(keys::userDefined).value_or(false);
         if (!custom && (chosen < 0 || chosen >= known)) {
             AppendPaper(
                 Filled(LoadText(TextLanguage(), QZ_TEXT_NUP_UNKNOWN_PAPER), {std::to_wstring(chosen)}),
@@ -204,8 +207,8 @@ class NUpDialog final : public RecordDialog {
     void OnPaperChosen() {
         const std::int32_t paper = ChosenPaper();
         if (paper < 0) return;
-        Controls().Show(width, nupPapers[paper].size.width);
-        Controls().Show(length, nupPapers[paper].size.height);
+        Controls().Show(keys::width, nupPapers[paper].size.width);
+        Controls().Show(keys::length, nupPapers[paper].size.height);
     }
 
     bool Checked(int id) const noexcept { return SendItem(id, BM_GETCHECK) == BST_CHECKED; }
@@ -249,10 +252,10 @@ class NUpDialog final : public RecordDialog {
     void WritePaper() const {
         const std::int32_t paper = ChosenPaper();
         if (paper == unknownPaper) return;
-        if (record_.GetBool(userDefined) != (paper == customPaper)) {
-            record_.SetBool(userDefined, paper == customPaper);
+        if (record_.GetBool(keys::userDefined) != (paper == customPaper)) {
+            record_.SetBool(keys::userDefined, paper == customPaper);
         }
-        if (paper >= 0) WriteNumber(predefined, paper);
+        if (paper >= 0) WriteNumber(keys::predefined, paper);
     }
 
     // The sheet
@@ -281,16 +284,16 @@ class NUpDialog final : public RecordDialog {
     std::optional<NUpSheet> SheetPaper() const {
         NUpSheet sheet;
         if (Checked(QZ_NUP_KEEP_ORIGINAL)) return sheet;
-        const auto wide = Number(width), high = Number(length);
+        const auto wide = Number(keys::width), high = Number(keys::length);
         if (!wide || !high) return std::nullopt;
         sheet.paper = {*wide, *high};
-        sheet.landscape = Choice(orientation) == landscape;
+        sheet.landscape = Choice(keys::orientation) == landscape;
         return sheet;
     }
 
     std::optional<NUpSheet> Sheet() const {
         std::optional<NUpSheet> paper = SheetPaper();
-        const auto down = Number(rows), across = Number(columns), between = Number(gap);
+        const auto down = Number(keys::rows), across = Number(keys::columns), between = Number(keys::gap);
         if (!paper || !down || !across || !between) return std::nullopt;
         NUpSheet& sheet = *paper;
         sheet.rows = *down;
@@ -311,7 +314,7 @@ class NUpDialog final : public RecordDialog {
 
     /// A number of rows or columns that the record had, and that no sheet can have; null when there is none.
     const SettingControls::Bound* CountOutOfRange() const {
-        for (const wchar_t* const key : {rows, columns}) {
+        for (const wchar_t* const key : {keys::rows, keys::columns}) {
             const std::int32_t count = Number(key).value_or(0);
             if (count < 1 || count > mostNUpRows) return Controls().Find(key);
         }
@@ -323,8 +326,8 @@ class NUpDialog final : public RecordDialog {
         std::optional<NUpLayout> layout = sheet ? LayOut(*sheet) : std::nullopt;
         if (!layout) return std::nullopt;
         NUpPicture picture{std::move(*layout), sheet->paper, std::nullopt};
-        if (Choice(scale) == actualSize) picture.percent = 100;
-        if (Choice(scale) == customScale) picture.percent = Number(percent);
+        if (Choice(keys::scale) == actualSize) picture.percent = 100;
+        if (Choice(keys::scale) == customScale) picture.percent = Number(keys::percent);
         picture.borders = Checked(QZ_NUP_BORDERS);
         picture.perforation = Checked(QZ_NUP_PERFORATION);
         picture.content = !Checked(QZ_NUP_SKIP_CONTENT);

@@ -45,12 +45,12 @@ std::size_t PictureBytes(const ThumbnailRecord& record) {
 }
 
 /// A picture as the host draws it, and whether it did.
-struct Rendering {
+struct RenderedPicture {
     Picture picture;
     bool complete;
 };
 
-Rendering Render(std::size_t index, const ThumbnailRecord& record, IVandraX* host, long factor) {
+RenderedPicture Render(std::size_t index, const ThumbnailRecord& record, IVandraX* host, long factor) {
     const DibSection bitmap(record.width, record.height);
     const MemoryDc dc;
     const SelectScope selected(dc.Get(), bitmap.Get());
@@ -106,7 +106,7 @@ bool ThumbnailPainter::DrawPicture(HDC dc, std::size_t index, const ThumbnailRec
     }
     const std::uint64_t generation = model_.Generation();
     if (PictureBytes(record) > pictures_.Budget()) return DrawUncached(dc, index, record, host, factor);
-    Rendering rendering = Render(index, record, host, factor);
+    RenderedPicture rendering = Render(index, record, host, factor);
     if (model_.Generation() != generation) return false;
     CopyPicture(dc, record, rendering.picture);
     // What the host could not draw is tried again at the next painting.

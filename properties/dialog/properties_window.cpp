@@ -15,7 +15,7 @@ namespace qz {
 namespace {
 
 constexpr wchar_t captionStart[] = L"Properties for: ";
-constexpr std::size_t longestPath = 127;
+constexpr std::size_t longestShownPath = 127;
 constexpr int buttonGap = 4;  // pixels at 96 dpi
 
 // Events of the inspector.
@@ -245,7 +245,7 @@ std::wstring PropertiesWindow::ChosenPath() const {
     std::wstring path(static_cast<std::size_t>(length), L'\0');
     SendItem(QZ_PROPERTIES_OBJECTS, CB_GETLBTEXT, static_cast<WPARAM>(entry),
              reinterpret_cast<LPARAM>(path.data()));
-    path.resize(std::min(path.size(), longestPath));
+    path.resize(std::min(path.size(), longestShownPath));
     return path;
 }
 

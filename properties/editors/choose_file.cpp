@@ -11,7 +11,7 @@ namespace qz {
 
 namespace {
 
-constexpr std::size_t longestPath = 32768;
+constexpr std::size_t longestPictureLink = 32768;
 
 /// What the chooser answered: a path, nothing when it was cancelled, or why it did not open.
 struct Answer {
@@ -20,7 +20,7 @@ struct Answer {
 };
 
 Answer Ask(HWND owner, const FileQuestion& question, const std::wstring& start) {
-    std::vector<wchar_t> path(longestPath);
+    std::vector<wchar_t> path(longestPictureLink);
     start.copy(path.data(), path.size() - 1);
     OPENFILENAMEW request{};
     request.lStructSize = sizeof request;

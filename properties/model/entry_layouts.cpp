@@ -12,8 +12,6 @@ constexpr int arrowsWidthAt96 = 16;
 constexpr int gapAt96 = 4;
 constexpr int narrowestTextAt96 = 60;
 
-int Scaled(int pixelsAt96, int dpi) noexcept { return pixelsAt96 * dpi / 96; }
-
 FieldPlaces WithButton(const FieldMetrics& metrics, const Rect& row) noexcept {
     const int gap = Scaled(gapAt96, metrics.dpi);
     const int width = metrics.client.width;

@@ -14,8 +14,6 @@ constexpr int valueHeightAt96 = 140;
 constexpr int frameSides = 6;
 constexpr int frameTopAndBottom = 12;
 
-int Scaled(int pixelsAt96, int dpi) noexcept { return pixelsAt96 * dpi / 96; }
-
 Rect Inside(const Rect& frame, int dpi) noexcept {
     const int sides = Scaled(frameSides, dpi), ends = Scaled(frameTopAndBottom, dpi);
     const Rect inside{frame.left + sides, frame.top + ends, frame.right - sides, frame.bottom - ends};

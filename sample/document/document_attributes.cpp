@@ -10,7 +10,7 @@ namespace {
 
 using namespace attribute_flag;
 
-struct Row {
+struct DocumentRow {
     std::wstring_view name;
     uint32_t flags;
     uint32_t type;
@@ -58,7 +58,7 @@ uint32_t WriteFocus(Document&, const Value& value) {
     return change::none;
 }
 
-constexpr Row rows[] = {
+constexpr DocumentRow computedRows[] = {
     {L"ObjectType", readOnly, type_code::int32, L"The number of the object's type", ReadType, nullptr},
     {L"PageSequence", hidden, type_code::longList, L"The pages that a save takes",
      ReadSequence<&Document::pageSequence>, WriteSequence<&Document::pageSequence>},
@@ -81,9 +81,9 @@ constexpr Row rows[] = {
      WriteFocus},
 };
 
-const Row* Find(std::wstring_view name) {
-    const auto found = std::ranges::find(rows, name, &Row::name);
-    return found == std::end(rows) ? nullptr : &*found;
+const DocumentRow* FindDocumentRow(std::wstring_view name) {
+    const auto found = std::ranges::find(computedRows, name, &DocumentRow::name);
+    return found == std::end(computedRows) ? nullptr : &*found;
 }
 
 uint32_t WriteEveryPage(Document& document, std::wstring_view name, const Value& value) {
@@ -100,7 +100,7 @@ uint32_t WriteEveryPage(Document& document, std::wstring_view name, const Value&
 const std::vector<DescriptionPointer>& ComputedDocumentAttributes() {
     static const std::vector<DescriptionPointer> descriptions = [] {
         std::vector<DescriptionPointer> made;
-        for (const Row& row : rows) {
+        for (const DocumentRow& row : computedRows) {
             made.push_back(std::make_shared<AttributeDescription>(AttributeDescription{
                 std::wstring(row.name), 'A', row.flags, row.type, row.description, L"", L""}));
         }
@@ -112,16 +112,18 @@ const std::vector<DescriptionPointer>& ComputedDocumentAttributes() {
     return descriptions;
 }
 
-bool IsComputedDocumentAttribute(std::wstring_view name) { return Find(name) || IsPageSetup(name); }
+bool IsComputedDocumentAttribute(std::wstring_view name) {
+    return FindDocumentRow(name) || IsPageSetup(name);
+}
 
 Value ReadDocumentAttribute(const Document& document, std::wstring_view name) {
-    if (const Row* row = Find(name)) return row->read(document);
+    if (const DocumentRow* row = FindDocumentRow(name)) return row->read(document);
     // The setup of all pages reads as that of the first.
     return ReadPageAttribute(document, document.pages.At(1), name);
 }
 
 uint32_t WriteDocumentAttribute(Document& document, std::wstring_view name, const Value& value) {
-    const Row* row = Find(name);
+    const DocumentRow* row = FindDocumentRow(name);
     if (!row) return WriteEveryPage(document, name, value);
     if (!row->write) throw AccessError(AccessFailure::ReadOnly, "The attribute can only be read");
     return row->write(document, value);

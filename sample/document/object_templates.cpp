@@ -9,7 +9,7 @@ namespace qz::sample {
 
 namespace {
 
-struct Row {
+struct TemplateRow {
     const wchar_t* name;
     char category;
     uint32_t flags;
@@ -22,7 +22,7 @@ struct Row {
 using namespace attribute_flag;
 using namespace type_code;
 
-constexpr Row placeRows[] = {
+constexpr TemplateRow placeRows[] = {
     {L"Name", '*', none, text, L"The object's name"},
     {L"ObjectType", 'A', readOnly, int32, L"The number of the object's type", L"0"},
     {L"Left", '*', none, int32, L"Distance of the left edge from the page's left edge, in twips", L"1440"},
@@ -36,7 +36,7 @@ constexpr Row placeRows[] = {
     {L"Unsorted", '\0', none, text, L"In no category", L""},
 };
 
-constexpr Row paintRows[] = {
+constexpr TemplateRow paintRows[] = {
     {L"BorderStyle", 'B', none, wholeChoice, L"Style of the border", L"1",
      L"0 None|1 Solid|2 Dashed|3 Dotted"},
     {L"BorderWidth", 'B', none, realChoice, L"Width of the border in points", L"1", L"0.25|0.5|1|2.5|5"},
@@ -48,7 +48,7 @@ constexpr Row paintRows[] = {
     {L"Group2", 'H', none, int32, L"Number in the second group", L"0"},
 };
 
-constexpr Row textRows[] = {
+constexpr TemplateRow textRows[] = {
     {L"Text", 'E', none, lines, L"The text"},
     {L"Font", 'E', none, font, L"Face; size; weight; italic; underline; strike-out",
      L"Arial; 10; 400; 0; 0; 0"},
@@ -57,7 +57,7 @@ constexpr Row textRows[] = {
     {L"Caption", 'T', none, text, L"The caption beside the object"},
 };
 
-constexpr Row dataRows[] = {
+constexpr TemplateRow dataRows[] = {
     {L"DataType", 'D', none, wholeChoice, L"Kind of the data", L"0",
      L"0 General Number|1 Date|2 Time|3 Date and Time|4 Percentage|5 Currency"},
     {L"Format", 'D', none, format, L"How the data is shown", L"#,###.00"},
@@ -68,45 +68,46 @@ constexpr Row dataRows[] = {
     {L"ClearValue", 'M', none, text, L"Empties the field"},
 };
 
-constexpr Row restRows[] = {
+constexpr TemplateRow restRows[] = {
     {L"SectionName", 'S', none, text, L"The section the object belongs to"},
     {L"Metadata", 'X', none, metadata, L"Description of the object as XML"},
     {L"NextActions", 'N', none, objects, L"What happens when the object is activated"},
 };
 
-constexpr Row pictureRows[] = {
+constexpr TemplateRow pictureRows[] = {
     {L"FileName", '*', none, file, L"The picture's file"},
     {L"KeepAspectRatio", '*', none, boolean, L"Whether width and height change together", L"True"},
 };
 
-constexpr Row checkRows[] = {{L"Checked", '*', none, boolean, L"Whether the box is ticked", L"False"}};
+constexpr TemplateRow checkRows[] = {
+    {L"Checked", '*', none, boolean, L"Whether the box is ticked", L"False"}};
 
-constexpr Row actionRows[] = {
+constexpr TemplateRow actionRows[] = {
     {L"Name", '*', none, text, L"The action's name"},
     {L"ObjectType", 'A', readOnly, int32, L"The number of the object's type", L"0"},
     {L"Description", '*', none, text, L"What the action does"},
     {L"NextActions", 'N', none, objects, L"What happens afterwards"},
 };
 
-constexpr Row goToRows[] = {
+constexpr TemplateRow goToRows[] = {
     {L"Page", '*', none, int32, L"The page to go to", L"1"},
     {L"Zoom", '*', none, wholeChoice, L"How the page is shown", L"0",
      L"0 Unchanged|1 Whole page|2 Page width"},
 };
-constexpr Row targetRows[] = {{L"Target", '*', none, text, L"What the action opens"}};
-constexpr Row hideRows[] = {{L"Hide", '*', none, boolean, L"True hides, False shows", L"True"}};
-constexpr Row scriptRows[] = {{L"Script", '*', none, lines, L"The program text"}};
-constexpr Row formRows[] = {
+constexpr TemplateRow targetRows[] = {{L"Target", '*', none, text, L"What the action opens"}};
+constexpr TemplateRow hideRows[] = {{L"Hide", '*', none, boolean, L"True hides, False shows", L"True"}};
+constexpr TemplateRow scriptRows[] = {{L"Script", '*', none, lines, L"The program text"}};
+constexpr TemplateRow formRows[] = {
     {L"Fields", '*', none, objects, L"The fields that the action concerns"},
     {L"SubmitTo", '*', none, text, L"The address the form is sent to"},
 };
 
-constexpr Row layerRows[] = {
+constexpr TemplateRow layerRows[] = {
     {L"Name", '*', readOnly, text, L"The layer's name in configurations"},
     {L"DisplayName", '*', none, text, L"The layer's name as it is shown"},
     {L"CurrentViewState", '*', none, text, L"ON when the layer is visible, else OFF", L"ON"},
 };
-constexpr Row configurationRows[] = {
+constexpr TemplateRow configurationRows[] = {
     {L"Name", '*', readOnly, text, L"The configuration's name"},
     {L"ConfigOrder", '*', none, text, L"The layers in their order, nested"},
     {L"ConfigRBGroups", '*', none, text, L"Groups of layers of which at most one is visible"},
@@ -114,7 +115,7 @@ constexpr Row configurationRows[] = {
     {L"ConfigOFF", '*', none, text, L"Layers hidden at first"},
     {L"BaseState", '*', none, text, L"State of the layers that no list names", L"ON"},
 };
-constexpr Row fontRows[] = {
+constexpr TemplateRow fontRows[] = {
     {L"FontName", '*', readOnly, text, L"The font's name"},
     {L"OriginalName", '*', readOnly, text, L"The font's name without the mark of a subset"},
     {L"BaseName", '*', readOnly, text, L"The name of the font's family"},
@@ -122,12 +123,12 @@ constexpr Row fontRows[] = {
     {L"Encoding", '*', readOnly, text, L"The font's encoding"},
     {L"Embedding", '*', none, int32, L"0 not embedded, 1 partially, 2 fully", L"0"},
 };
-constexpr Row informationRows[] = {
+constexpr TemplateRow informationRows[] = {
     {L"ObjectType", 'A', hidden | readOnly, int32, L"The number of the object's type", L"0"}};
-constexpr Row collectionRows[] = {
+constexpr TemplateRow collectionRows[] = {
     {L"MeasurementUnit", '*', none, int32, L"0 tenths of millimetres, 1 inches, 2 twips", L"2"},
 };
-constexpr Row documentRows[] = {
+constexpr TemplateRow documentRows[] = {
     {L"Title", 'X', none, text, L"The document's title"},
     {L"Subject", 'X', none, text, L"The document's subject"},
     {L"Author", 'X', none, text, L"The document's author"},
@@ -153,7 +154,7 @@ constexpr Row documentRows[] = {
      L"False"},
 };
 
-using Rows = std::span<const Row>;
+using Rows = std::span<const TemplateRow>;
 struct TypeRow {
     int32_t type;
     std::array<Rows, 6> groups;
@@ -186,7 +187,7 @@ const TypeRow typeRows[] = {
     {object_type::information, {informationRows}},
 };
 
-Attribute MakeAttribute(const Row& row) {
+Attribute MakeAttribute(const TemplateRow& row) {
     auto description = std::make_shared<AttributeDescription>();
     description->name = row.name;
     description->category = static_cast<unsigned char>(row.category);
@@ -202,7 +203,7 @@ Attribute MakeAttribute(const Row& row) {
 std::vector<Attribute> MakeAttributes(const TypeRow& type) {
     std::vector<Attribute> attributes;
     for (const Rows rows : type.groups) {
-        for (const Row& row : rows) attributes.push_back(MakeAttribute(row));
+        for (const TemplateRow& row : rows) attributes.push_back(MakeAttribute(row));
     }
     for (Attribute& attribute : attributes) {
         if (attribute.description->name == L"ObjectType") attribute.value = type.type;

@@ -9,7 +9,7 @@ namespace {
 
 using namespace attribute_flag;
 
-struct Row {
+struct PageRow {
     std::wstring_view name;
     char category;
     uint32_t flags;
@@ -38,11 +38,11 @@ Value ReadObjects(const Document& document, const Page& page) {
 Value ReadType(const Document&, const Page&) { return object_type::page; }
 
 template <auto Member>
-constexpr Row Length(std::wstring_view name, const wchar_t* description, uint32_t change) {
+constexpr PageRow Length(std::wstring_view name, const wchar_t* description, uint32_t change) {
     return {name, '*', none, type_code::int32, description, Read<Member>, Write<Member>, change};
 }
 
-constexpr Row rows[] = {
+constexpr PageRow pageRows[] = {
     Length<&Page::width>(L"Width", L"Width of the page in twips", change::pageSize),
     Length<&Page::height>(L"Length", L"Height of the page in twips", change::pageSize),
     {L"Landscape", '*', none, type_code::boolean, L"Whether the paper lies on its long side",
@@ -61,14 +61,14 @@ constexpr Row rows[] = {
      0},
 };
 
-const Row& Find(std::wstring_view name) {
-    const auto found = std::ranges::find(rows, name, &Row::name);
-    if (found != std::end(rows)) return *found;
+const PageRow& FindPageRow(std::wstring_view name) {
+    const auto found = std::ranges::find(pageRows, name, &PageRow::name);
+    if (found != std::end(pageRows)) return *found;
     throw AccessError(AccessFailure::NoSuchAttribute, "Pages have no attribute of that name");
 }
 
-const Row& FindWritable(std::wstring_view name) {
-    const Row& row = Find(name);
+const PageRow& FindWritable(std::wstring_view name) {
+    const PageRow& row = FindPageRow(name);
     if (row.write) return row;
     throw AccessError(AccessFailure::ReadOnly, "The attribute can only be read");
 }
@@ -78,7 +78,7 @@ const Row& FindWritable(std::wstring_view name) {
 const std::vector<DescriptionPointer>& PageAttributes() {
     static const std::vector<DescriptionPointer> descriptions = [] {
         std::vector<DescriptionPointer> made;
-        for (const Row& row : rows) {
+        for (const PageRow& row : pageRows) {
             made.push_back(std::make_shared<AttributeDescription>(
                 AttributeDescription{std::wstring(row.name), static_cast<unsigned char>(row.category),
                                      row.flags, row.type, row.description, L"", L""}));
@@ -89,11 +89,11 @@ const std::vector<DescriptionPointer>& PageAttributes() {
 }
 
 Value ReadPageAttribute(const Document& document, const Page& page, std::wstring_view name) {
-    return Find(name).read(document, page);
+    return FindPageRow(name).read(document, page);
 }
 
 uint32_t WritePageAttribute(Page& page, std::wstring_view name, const Value& value) {
-    const Row& row = FindWritable(name);
+    const PageRow& row = FindWritable(name);
     return row.write(page, Coerced(value, row.type)) ? row.change : change::none;
 }
 
@@ -102,8 +102,8 @@ void CheckPageAttribute(std::wstring_view name, const Value& value) {
 }
 
 bool IsPageSetup(std::wstring_view name) {
-    const auto found = std::ranges::find(rows, name, &Row::name);
-    return found != std::end(rows) && found->write;
+    const auto found = std::ranges::find(pageRows, name, &PageRow::name);
+    return found != std::end(pageRows) && found->write;
 }
 
 }  // namespace qz::sample

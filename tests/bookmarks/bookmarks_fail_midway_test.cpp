@@ -4,8 +4,6 @@
 namespace qz {
 namespace {
 
-constexpr HRESULT planned = 0x8004BEEF;
-
 class BookmarksFailMidway : public OutlineTest {
   protected:
     /// What must hold after any step, failed or not.

@@ -10,7 +10,7 @@ namespace qz {
 namespace {
 
 constexpr auto mm = SizeUnit::TenthsOfMillimeters;
-constexpr auto inches = SizeUnit::Inches;
+constexpr auto inchSizes = SizeUnit::Inches;
 constexpr auto twips = SizeUnit::Twips;
 
 TEST(PaperSizes, HasItsBoundsAndItsQuirks) {
@@ -28,11 +28,11 @@ TEST(PaperSizes, HasItsBoundsAndItsQuirks) {
 
 TEST(SizeTexts, ShowTwipsInTheUnit) {
     EXPECT_EQ(SizeText(16838, mm), L"2970");
-    EXPECT_EQ(SizeText(12240, inches), L"8.50");
-    EXPECT_EQ(SizeText(1442, inches), L"1.00");
-    EXPECT_EQ(SizeText(72, inches), L"0.05");
-    EXPECT_EQ(SizeText(-1440, inches), L"-1.00");
-    EXPECT_EQ(SizeText(-720, inches), L"-0.50");
+    EXPECT_EQ(SizeText(12240, inchSizes), L"8.50");
+    EXPECT_EQ(SizeText(1442, inchSizes), L"1.00");
+    EXPECT_EQ(SizeText(72, inchSizes), L"0.05");
+    EXPECT_EQ(SizeText(-1440, inchSizes), L"-1.00");
+    EXPECT_EQ(SizeText(-720, inchSizes), L"-0.50");
     EXPECT_EQ(SizeText(12345, twips), L"12345");
     EXPECT_EQ(SizeText(77, static_cast<SizeUnit>(9)), L"77");
     EXPECT_EQ(SizeText(2147483647, mm), L"378792254");
@@ -41,17 +41,17 @@ TEST(SizeTexts, ShowTwipsInTheUnit) {
 TEST(SizeTexts, AreReadWithTheirTruncations) {
     EXPECT_EQ(SizeOf(L"2970", mm), 16838);
     EXPECT_EQ(SizeOf(L"2100.9", mm), 11906);
-    EXPECT_EQ(SizeOf(L"8.99", inches), 11520);
-    EXPECT_EQ(SizeOf(L"0.99", inches), 0);
-    EXPECT_EQ(SizeOf(L"-8.99", inches), -11520);
+    EXPECT_EQ(SizeOf(L"8.99", inchSizes), 11520);
+    EXPECT_EQ(SizeOf(L"0.99", inchSizes), 0);
+    EXPECT_EQ(SizeOf(L"-8.99", inchSizes), -11520);
     EXPECT_EQ(SizeOf(L"12240", twips), 12240);
-    EXPECT_EQ(MarginOf(L"2.9", inches), 2880);
+    EXPECT_EQ(MarginOf(L"2.9", inchSizes), 2880);
     EXPECT_EQ(MarginOf(L"254", mm), 1440);
     EXPECT_EQ(MarginOf(L"3 cm", twips), 3);
 }
 
 TEST(SizeTexts, SurviveAnyText) {
-    for (const SizeUnit unit : {mm, inches, twips, static_cast<SizeUnit>(-1)}) {
+    for (const SizeUnit unit : {mm, inchSizes, twips, static_cast<SizeUnit>(-1)}) {
         for (const wchar_t* text : {L"", L"abc", L"--4", L"nan", L"."}) {
             EXPECT_EQ(SizeOf(text, unit), 0);
             EXPECT_EQ(MarginOf(text, unit), 0);
@@ -59,22 +59,22 @@ TEST(SizeTexts, SurviveAnyText) {
         EXPECT_EQ(SizeOf(L"99999999999999999999999", unit), 2147483647);
         EXPECT_EQ(MarginOf(L"-99999999999999999999999", unit), -2147483647 - 1);
     }
-    EXPECT_EQ(SizeOf(L"1e300", inches), 2147483647);
-    EXPECT_EQ(SizeOf(L"-inf", inches), -2147483647 - 1);
+    EXPECT_EQ(SizeOf(L"1e300", inchSizes), 2147483647);
+    EXPECT_EQ(SizeOf(L"-inf", inchSizes), -2147483647 - 1);
 }
 
 /// Everything read, A4 and its bin, sizes that no unit but twips shows exactly.
 SetupValues ReadA4() { return {0, 9, 11905, 16837, 3, 721, 722, 723, 724}; }
 
 TEST(PageSetup, WhatIsLeftAloneIsWrittenAsItWasRead) {
-    for (const SizeUnit unit : {mm, inches, twips}) {
+    for (const SizeUnit unit : {mm, inchSizes, twips}) {
         const PageSetup setup(unit, ReadA4());
         EXPECT_EQ(setup.Shown().paper, 9);
         EXPECT_EQ(setup.Written(setup.Shown()), ReadA4());
     }
     // Out of range, and not read at all.
     const SetupValues strange{1, 0, 5000, 70000, 99, -5, 0, 0, std::nullopt};
-    const PageSetup setup(inches, strange);
+    const PageSetup setup(inchSizes, strange);
     EXPECT_EQ(setup.Shown().paper, 0);
     EXPECT_EQ(setup.Shown().bin, 0);
     SetupValues expected = strange;
@@ -102,7 +102,7 @@ TEST(PageSetup, PapersLieOnTheirSideCustomSizesDoNot) {
 }
 
 TEST(PageSetup, AChosenPaperGivesItsSize) {
-    PageSetup setup(inches, ReadA4());
+    PageSetup setup(inchSizes, ReadA4());
     setup.ChoosePaper(1);
     SetupEntries now = setup.Shown();
     now.paper = 1;

@@ -18,44 +18,44 @@ std::wstring Mapped(std::wstring_view text) {
 
 constexpr LetterCase ascii{Mapped<std::towupper>, Mapped<std::towlower>};
 
-struct Case {
+struct TextCase {
     const wchar_t* text;
     const wchar_t* pattern;
     std::wstring formatted;
 };
 
 template <std::size_t count>
-void ExpectAll(const Case (&cases)[count]) {
-    for (const Case& c : cases) {
+void ExpectTexts(const TextCase (&cases)[count]) {
+    for (const TextCase& c : cases) {
         EXPECT_EQ(TextFormat(c.pattern).Format(c.text, ascii), c.formatted) << c.text << L" as " << c.pattern;
     }
 }
 
 TEST(TextFormat, Placeholders) {
-    ExpectAll({{L"abcde", L"@@@-@@", L"abc-de"},
-               {L"ab", L"@@@-@@", L"   -ab"},
-               {L"abcdefgh", L"@@@-@@", L"abcdef-gh"},
-               {L"ab", L"&&&-&&", L"-ab"},
-               {L"abc", L"&&@-&&", L"a-bc"},
-               {L"5551234", L"(@@@) @@@-@@@@", L"(   ) 555-1234"},
-               {L"", L"@-&", L" -"},
-               {L"ab", L"!@@@-@@", L"ab -  "},
-               {L"ab", L"!&&&-&&", L"ab-"},
-               {L"abcdefgh", L"!@@@-@@x", L"abc-defghx"}});
+    ExpectTexts({{L"abcde", L"@@@-@@", L"abc-de"},
+                 {L"ab", L"@@@-@@", L"   -ab"},
+                 {L"abcdefgh", L"@@@-@@", L"abcdef-gh"},
+                 {L"ab", L"&&&-&&", L"-ab"},
+                 {L"abc", L"&&@-&&", L"a-bc"},
+                 {L"5551234", L"(@@@) @@@-@@@@", L"(   ) 555-1234"},
+                 {L"", L"@-&", L" -"},
+                 {L"ab", L"!@@@-@@", L"ab -  "},
+                 {L"ab", L"!&&&-&&", L"ab-"},
+                 {L"abcdefgh", L"!@@@-@@x", L"abc-defghx"}});
 }
 
 TEST(TextFormat, CaseLiteralsAndSections) {
-    ExpectAll({{L"aBc", L">", L"ABC"},
-               {L"aBc", L"<", L"abc"},
-               {L"aBc", L">@@-x@", L"AB-xC"},
-               {L"aBc", L"<No. ", L"No. abc"},
-               {L"abc", L"\\@\"&\"@@@", L"@&abc"},
-               {L"abc", L"text", L"text"},
-               {L"", L"@@;\"none\"", L"none"},
-               {L"ab", L"@@;\"none\"", L"ab"},
-               {L"", L"@@;", L""},
-               {L"abc", L"", L""},
-               {L"abc", L"@\"open", L"abcopen"}});
+    ExpectTexts({{L"aBc", L">", L"ABC"},
+                 {L"aBc", L"<", L"abc"},
+                 {L"aBc", L">@@-x@", L"AB-xC"},
+                 {L"aBc", L"<No. ", L"No. abc"},
+                 {L"abc", L"\\@\"&\"@@@", L"@&abc"},
+                 {L"abc", L"text", L"text"},
+                 {L"", L"@@;\"none\"", L"none"},
+                 {L"ab", L"@@;\"none\"", L"ab"},
+                 {L"", L"@@;", L""},
+                 {L"abc", L"", L""},
+                 {L"abc", L"@\"open", L"abcopen"}});
 }
 
 TEST(TextFormat, SurrogatePairsStayWhole) {

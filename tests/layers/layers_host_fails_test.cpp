@@ -6,8 +6,6 @@
 namespace qz {
 namespace {
 
-constexpr HRESULT planned = 0x8004BEEF;
-
 class LayersHostFails : public LayersTest {
   protected:
     void SetUp() override { Configure(L"ABcD", L"(A)[(B)(c)](D)(Heading)", L"[(c)(D)]", L"(A)", L"(c)"); }

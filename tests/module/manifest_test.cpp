@@ -5,7 +5,7 @@
 namespace qz {
 namespace {
 
-const ClassRow rows[] = {
+const ClassRow threeClasses[] = {
     {L"qzOne", L"{1}", L"IqzOne", L"{I1}", L"Qz.One", L"Qz.One.%QZ_PROGID_VERSTR%", L"qz.One", L"Apartment",
      true, true},
     {L"qzTwo", L"{2}", L"IqzTwo", L"{I2}", L"Qz.Two", nullptr, L"Qz.Two", L"both", false, true},
@@ -13,7 +13,7 @@ const ClassRow rows[] = {
 };
 
 TEST(Manifest, ListsTheServedClasses) {
-    EXPECT_EQ(WriteManifest(rows), R"(<?xml version="1.0" encoding="UTF-8" standalone="yes"?>
+    EXPECT_EQ(WriteManifest(threeClasses), R"(<?xml version="1.0" encoding="UTF-8" standalone="yes"?>
 <assembly xmlns="urn:schemas-microsoft-com:asm.v1" manifestVersion="1.0">
   <assemblyIdentity type="win32" name="qzVandraExt.X" version="6.5.0.0" processorArchitecture="amd64"/>
   <file name="qzVandraExt.dll">

@@ -59,7 +59,7 @@ struct Row {
     bool control;
 };
 
-const Row rows[] = {
+const Row scriptRows[] = {
     {L"qzBookmarkCtrl", L"{B12592F0-6748-46E2-BCC8-38788B852506}", L"QzVandraExt.qzBookmarkCtrl",
      L"QzVandraExt.qzBookmarkCtrl.1", L"QzVandraExt.qzBookmarkCtrl", L"Apartment", true},
     {L"qzLayersCtrl", L"{CC8649C0-24F7-483B-8F09-505077C23D94}", L"QzVandraExt.qzLayersCtrl",
@@ -83,7 +83,7 @@ const Row rows[] = {
 };
 
 TEST(RegistrationScript, KeepsEachClassesOwnTexts) {
-    for (const Row& row : rows) {
+    for (const Row& row : scriptRows) {
         SCOPED_TRACE(testing::Message() << row.name);
         const RegistrationScript script = Expanded(row.name);
         const std::wstring classKey = L"CLSID\\" + std::wstring(row.classId);

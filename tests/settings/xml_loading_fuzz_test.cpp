@@ -107,7 +107,7 @@ bool Writable(const qzSimpleXmlElement& element) {
            std::ranges::all_of(element.Children(), [](const auto& child) { return Writable(*child); });
 }
 
-std::string Saved(qzSimpleXml& document) {
+std::string SavedAgain(qzSimpleXml& document) {
     const ComPtr<IStream> stream = MakeMemoryStream();
     document.Save(stream.Get());
     return TextOf(stream.Get());
@@ -121,13 +121,13 @@ TEST(XmlLoadingFuzz, DamagedDocuments) {
         const std::string text = damage.Of(seeds[i % std::size(seeds)]);
         qzSimpleXml document;
         const bool whole = document.Load(StreamOf(text).Get());
-        const std::string saved = Saved(document);
+        const std::string saved = SavedAgain(document);
         loaded += whole;
         if (!whole || !Writable(*document.GetRoot())) continue;
         ++compared;
         qzSimpleXml again;
         ASSERT_TRUE(again.Load(StreamOf(saved).Get())) << text << "\n" << saved;
-        ASSERT_EQ(Saved(again), saved) << text;
+        ASSERT_EQ(SavedAgain(again), saved) << text;
     }
     EXPECT_GT(loaded, 1'000) << "too much damage to test anything";
     EXPECT_GT(compared, loaded / 2);

@@ -6,8 +6,6 @@
 namespace qz {
 namespace {
 
-using enum StatusField;
-
 class StatusEntering : public StatusTest {
   protected:
     void SetUp() override {

@@ -4,8 +4,6 @@
 namespace qz {
 namespace {
 
-using enum StatusField;
-
 class StatusFields : public StatusTest {};
 
 TEST_F(StatusFields, TellOfTheDocumentInTheChosenUnit) {

@@ -7,10 +7,6 @@
 namespace qz {
 namespace {
 
-using enum StatusField;
-
-constexpr HRESULT planned = 0x8004BEEF;
-
 class StatusHostFails : public StatusTest {};
 
 TEST_F(StatusHostFails, AnyOneCallOfInitialize) {

@@ -9,8 +9,6 @@
 namespace qz {
 namespace {
 
-using enum StatusField;
-
 StatusLayoutRequest Request(std::int32_t width) {
     StatusLayoutRequest request;
     request.bar = {width, 24};
@@ -46,6 +44,7 @@ void ExpectOrder(const StatusLayoutRequest& request) {
 }
 
 TEST(StatusLayout, EverythingWithRoomToSpare) {
+    using enum StatusField;
     const PerField<Rect> places = ArrangeStatusFields(Request(1000));
     EXPECT_EQ(places[PageSize], (Rect{4, 3, 104, 21}));
     EXPECT_EQ(places[ObjectCoords], (Rect{108, 3, 258, 21}));
@@ -55,6 +54,7 @@ TEST(StatusLayout, EverythingWithRoomToSpare) {
 }
 
 TEST(StatusLayout, NarrowerBarsLoseTheLeastImportantFirst) {
+    using enum StatusField;
     const StatusField order[] = {ObjectName, ObjectCoords, PageSize, LastPage,    FirstPage,
                                  NextPage,   PreviousPage, Zoom,     PagePosition};
     std::set<StatusField> expected(statusFields.begin(), statusFields.end());
@@ -72,6 +72,7 @@ TEST(StatusLayout, NarrowerBarsLoseTheLeastImportantFirst) {
 }
 
 TEST(StatusLayout, TheNameIsCutBeforeItIsDropped) {
+    using enum StatusField;
     StatusLayoutRequest request = Request(600);
     const PerField<Rect> places = ArrangeStatusFields(request);
     EXPECT_GE(places[ObjectName].Width(), 50);
@@ -83,6 +84,7 @@ TEST(StatusLayout, TheNameIsCutBeforeItIsDropped) {
 }
 
 TEST(StatusLayout, HiddenFieldsTakeNoRoom) {
+    using enum StatusField;
     StatusLayoutRequest request = Request(1000);
     request.widths[PageSize] = 0;
     request.widths[ObjectCoords] = -7;
@@ -92,6 +94,7 @@ TEST(StatusLayout, HiddenFieldsTakeNoRoom) {
 }
 
 TEST(StatusLayout, AnySizesAtAll) {
+    using enum StatusField;
     std::mt19937 random(20);
     std::uniform_int_distribution<std::int32_t> bar(-10, 1200);
     std::uniform_int_distribution<std::int32_t> width(-20, 400);

@@ -17,6 +17,8 @@ namespace qz {
 
 class StatusTest : public ::testing::Test {
   protected:
+    using enum StatusField;
+
     static constexpr SIZE wide{900, 26};
 
     StatusTest() {

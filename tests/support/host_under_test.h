@@ -10,6 +10,9 @@
 
 namespace qz {
 
+/// What a planned fault of the host answers.
+inline constexpr HRESULT planned = 0x8004BEEF;
+
 /// A new reference host with that many pages of US Letter size.
 ComPtr<IReferenceHost> MakeHost(long pages);
 

@@ -6,8 +6,6 @@
 namespace qz {
 namespace {
 
-constexpr HRESULT planned = 0x8004BEEF;
-
 class Deleting : public PagesTest {
   protected:
     /// The host's log without reading and drawing: what the pane changes.

@@ -7,7 +7,7 @@
 namespace qz {
 namespace {
 
-constexpr DWORD white = 0xFFFFFFFF;
+constexpr DWORD opaqueWhite = 0xFFFFFFFF;
 constexpr DWORD frame = 0xFF7F7F7F;
 
 class DragPictureTest : public ::testing::Test {
@@ -40,8 +40,8 @@ TEST_F(DragPictureTest, SheetsWithAnAreaLieOverEachOther) {
     EXPECT_EQ(At(picture, 0, 29), frame);
     EXPECT_EQ(At(picture, 2, 2), frame) << "the second sheet, the damaged page passed over";
     EXPECT_EQ(At(picture, 41, 11), frame);
-    EXPECT_EQ(At(picture, 41, 31), white);
-    EXPECT_EQ(At(picture, 30, 0), white);
+    EXPECT_EQ(At(picture, 41, 31), opaqueWhite);
+    EXPECT_EQ(At(picture, 30, 0), opaqueWhite);
 }
 
 TEST_F(DragPictureTest, WithoutAnAreaThereIsNone) {

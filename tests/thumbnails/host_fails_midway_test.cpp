@@ -6,8 +6,6 @@
 namespace qz {
 namespace {
 
-constexpr HRESULT planned = 0x8004BEEF;
-
 class HostFailsMidway : public PaneTest {
   protected:
     /// What must hold after any step, failed or not.

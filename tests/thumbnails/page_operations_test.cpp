@@ -5,7 +5,6 @@
 namespace qz {
 namespace {
 
-constexpr HRESULT planned = 0x8004BEEF;
 constexpr CLIPFORMAT bothFormats[] = {pagesFormat, documentFormat};
 
 ComPtr<PlainData> PagesIn(CLIPFORMAT format, const Bytes& bytes) {

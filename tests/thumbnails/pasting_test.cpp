@@ -1,6 +1,7 @@
 // Cut, copy and paste by the keyboard, through the system's clipboard.
 #include "pages_fixture.h"
 
+#include "panes/thumbnails/page_formats.h"
 #include "tests/support/bytes_object.h"
 
 #include <algorithm>
@@ -8,9 +9,7 @@
 namespace qz {
 namespace {
 
-constexpr HRESULT planned = 0x8004BEEF;
-constexpr CLIPFORMAT documentFormat = 0x201;
-constexpr CLIPFORMAT pagesFormat = 0x202;
+static_assert(documentFormat == 0x201 && pagesFormat == 0x202);
 
 class Pasting : public PagesTest {
   protected:
