@@ -29,7 +29,7 @@ int CompareTexts(const std::wstring& left, const std::wstring& right) noexcept {
 }
 
 /// What is no number is no level.
-int LevelOf(const _variant_t& embedding) noexcept {
+int EmbeddingOf(const _variant_t& embedding) noexcept {
     _variant_t number;
     const bool told = SUCCEEDED(VariantChangeType(&number, const_cast<_variant_t*>(&embedding), 0, VT_I4));
     return told ? EmbeddingLevel(number.lVal) : 0;
@@ -89,7 +89,7 @@ std::optional<FontRow> CDocSettingsDlgTab4::ReadFont(IDispatch* font) {
     }
     row.type = ToText(Objects().Attribute(font, L"FontType"));
     const _variant_t embedding = Objects().Attribute(font, L"Embedding");
-    row.level = subset ? partialEmbedding : LevelOf(embedding);
+    row.level = subset ? partialEmbedding : EmbeddingOf(embedding);
     row.encoding = ToText(Objects().Attribute(font, L"Encoding"));
     return row;
 }

@@ -3,6 +3,7 @@
 #include "format/user_locale.h"
 #include "host/attributes.h"
 #include "host/object_path.h"
+#include "host/text_variant.h"
 #include "panes/common/popup_menu.h"
 #include "properties/editors/choose_file.h"
 #include "properties/editors/shown_value.h"
@@ -30,8 +31,6 @@ constexpr DWORD linesStyle =
 
 /// Menu ids have 16 bits.
 constexpr std::size_t mostMenuEntries = 0xFFFF;
-
-_variant_t TextVariant(const std::wstring& text) { return _variant_t(Bstr(text).Get()); }
 
 }  // namespace
 

@@ -45,7 +45,7 @@ std::optional<std::size_t> CategoryOf(const _variant_t& dataType) {
     return type >= 0 && type < categories ? std::optional(static_cast<std::size_t>(type)) : std::nullopt;
 }
 
-std::wstring ShownText(const _variant_t& value) {
+std::wstring FormatOf(const _variant_t& value) {
     std::wstring text;
     // What is no text is shown as none.
     if (FAILED(Guard(IID_NULL, [&] { text = ToText(value); }))) text.clear();
@@ -92,7 +92,7 @@ void CValueFormatDlg::OnSized(SIZE client) {
 
 void CValueFormatDlg::ShowValue(const _variant_t* value) {
     mixed_ = !value;
-    SetItemText(QZ_EDITOR_TEXT, value ? ShownText(*value) : std::wstring());
+    SetItemText(QZ_EDITOR_TEXT, value ? FormatOf(*value) : std::wstring());
     if (value) return ShowPreview();
     SendItem(QZ_EDITOR_FORMATS, LB_SETCURSEL, static_cast<WPARAM>(-1));
     SetItemText(QZ_EDITOR_PREVIEW, {});
