@@ -1,5 +1,7 @@
 #include "sample/host/call_recorder.h"
 
+#include <utility>
+
 namespace qz::sample {
 
 void CallRecorder::WriteLine(Operation operation, std::wstring_view arguments) {
@@ -24,17 +26,27 @@ void CallRecorder::FailOperation(Operation operation, int32_t code) {
     faultsPlanned_ = true;
 }
 
+void CallRecorder::InterruptCall(uint64_t number, std::function<void()> action) {
+    interruptedCall_ = callsSinceFirstPlan_ + number;
+    interruption_ = std::move(action);
+    faultsPlanned_ = true;
+}
+
 void CallRecorder::ClearFaults() {
     failingCalls_.clear();
     failingOperations_.clear();
+    interruption_ = nullptr;
     faultsPlanned_ = false;
     callsSinceFirstPlan_ = 0;
 }
 
 int32_t CallRecorder::PlannedFault(Operation operation) noexcept {
-    ++callsSinceFirstPlan_;
-    if (const auto call = failingCalls_.find(callsSinceFirstPlan_); call != failingCalls_.end())
-        return call->second;
+    const uint64_t number = ++callsSinceFirstPlan_;
+    if (interruption_ && number == interruptedCall_) {
+        const auto action = std::exchange(interruption_, nullptr);
+        action();
+    }
+    if (const auto call = failingCalls_.find(number); call != failingCalls_.end()) return call->second;
     const auto failing = failingOperations_.find(operation.number);
     return failing == failingOperations_.end() ? 0 : failing->second;
 }

@@ -6,6 +6,7 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <string>
 #include <vector>
@@ -34,6 +35,8 @@ class CallRecorder {
     /// The `number`-th call from now (1: the next) fails with `code`. Several may be planned.
     void FailCall(uint64_t number, int32_t code);
     void FailOperation(Operation operation, int32_t code);
+    /// The `number`-th call from now runs `action` first, which does not throw.
+    void InterruptCall(uint64_t number, std::function<void()> action);
     void ClearFaults();
 
   private:
@@ -47,6 +50,8 @@ class CallRecorder {
     uint64_t callsSinceFirstPlan_ = 0;
     std::map<uint64_t, int32_t> failingCalls_;
     std::map<size_t, int32_t> failingOperations_;
+    uint64_t interruptedCall_ = 0;
+    std::function<void()> interruption_;
 };
 
 }  // namespace qz::sample

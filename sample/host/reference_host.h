@@ -91,6 +91,7 @@ class MemoryHost
     STDMETHODIMP get_LogText(BSTR* text) override;
     STDMETHODIMP ClearLog() override;
     STDMETHODIMP FailCall(long number, long code) override;
+    STDMETHODIMP InterruptCall(long number, IDispatch* called) override;
     STDMETHODIMP FailOperation(BSTR operation, long code) override;
     STDMETHODIMP ClearFaults() override;
     STDMETHODIMP put_HiddenInterfaces(long bits) override;

@@ -240,6 +240,18 @@ STDMETHODIMP MemoryHost::FailCall(long number, long code) {
     });
 }
 
+STDMETHODIMP MemoryHost::InterruptCall(long number, IDispatch* called) {
+    return Extra([&] {
+        if (number < 1 || !called)
+            Throw(E_INVALIDARG, L"An interruption needs a number from 1 and an object");
+        session_->calls->InterruptCall(static_cast<uint64_t>(number), [called = ComPtr<IDispatch>(called)] {
+            DISPPARAMS none{};
+            called->Invoke(DISPID_VALUE, IID_NULL, LOCALE_NEUTRAL, DISPATCH_METHOD, &none, nullptr, nullptr,
+                           nullptr);
+        });
+    });
+}
+
 STDMETHODIMP MemoryHost::FailOperation(BSTR operation, long code) {
     return Extra([&] {
         if (SUCCEEDED(code)) Throw(E_INVALIDARG, L"A failure needs a failing code");

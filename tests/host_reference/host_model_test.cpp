@@ -114,8 +114,14 @@ TEST(Calls, AreCountedAndFailAsPlanned) {
     EXPECT_EQ(calls.Enter(LateBound::BookmarkItem), -6);
     calls.ClearFaults();
     EXPECT_EQ(calls.Enter(LateBound::BookmarkItem), 0);
-    EXPECT_EQ(calls.Total(), 7u);
-    EXPECT_EQ(calls.CountOf(LateBound::BookmarkItem), 3u);
+    int interrupted = 0;
+    calls.InterruptCall(2, [&] { interrupted += 1 + calls.Enter(Place::GetZoom); });
+    for (const int after : {0, 1, 1}) {
+        EXPECT_EQ(calls.Enter(LateBound::BookmarkItem), 0);
+        EXPECT_EQ(interrupted, after);
+    }
+    EXPECT_EQ(calls.Total(), 11u);
+    EXPECT_EQ(calls.CountOf(LateBound::BookmarkItem), 6u);
     EXPECT_EQ(NameOf(*FindOperation(L"DrawCurrentPage")), L"DrawCurrentPage");
     EXPECT_EQ(Operation(Place::DrawCurrentPage).number, 190u);
     EXPECT_FALSE(FindOperation(L"Nothing"));
