@@ -1,12 +1,11 @@
 #include "com/error.h"
 
+#include "com/com_ptr.h"
+
 #include <comdef.h>
-#include <wrl/client.h>
 
 #include <cwchar>
 #include <new>
-
-using Microsoft::WRL::ComPtr;
 
 namespace qz {
 

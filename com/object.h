@@ -1,19 +1,17 @@
 // The base of every COM object: reference count, QueryInterface over a list of interfaces, module lock.
 #pragma once
 
+#include "com/com_ptr.h"
 #include "com/error.h"
 #include "com/module.h"
 
 #include <windows.h>
 #include <unknwn.h>
 #include <oaidl.h>
-#include <wrl/client.h>
 
 #include <concepts>
 
 namespace qz {
-
-using Microsoft::WRL::ComPtr;
 
 /// An entry of an object's interface list that answers more ids than its own type's has a static
 /// `FindInterface(self, iid)` giving the interface pointer or null.

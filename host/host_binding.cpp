@@ -44,11 +44,12 @@ void HostBinding::Attach(IDispatch* candidate) {
     cookie_ = cookie;
     short language = 0;
     const HRESULT result = host->GetLanguageId(&language);
+    const bool replaced = sink_.Get() != sink.Get();  // by an attachment made inside that call, which stays
     if (FAILED(result)) {
-        Detach();
+        if (!replaced) Detach();
         Throw(result, L"The host does not tell its language");
     }
-    if (host_ == host) languageId_ = static_cast<std::uint16_t>(language);
+    if (!replaced) languageId_ = static_cast<std::uint16_t>(language);
 }
 
 void HostBinding::Detach() noexcept {

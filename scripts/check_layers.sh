@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Checks that a folder includes only headers of its own and of the folders above it in this list.
+# Checks that a folder includes only headers of its own and of the folders above it in this list, and the smart
+# pointer by our own header.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
@@ -26,4 +27,8 @@ for pane in panes/*/; do
         bad=1
     fi
 done
+if grep -rnE '#include <wrl/' --include='*.h' --include='*.cpp' "${layers[@]}" | grep -v '^com/com_ptr.h:'; then
+    echo "(com/com_ptr.h is to be included instead)"
+    bad=1
+fi
 exit $bad

@@ -60,7 +60,9 @@ STDMETHODIMP BookmarkControl::Refresh() {
 
 STDMETHODIMP BookmarkControl::ExpandAll() {
     return Run([this] {
+        const ComPtr<IVandraX> host = Host();
         Rebuild(everyLevel);
+        if (!SameObject(Host(), host)) return;  // the tree is another host's by now
         if (tree_ && tree_.Root()) tree_.Expand(tree_.Root(), TVE_EXPAND);
     });
 }

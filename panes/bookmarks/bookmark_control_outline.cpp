@@ -22,6 +22,8 @@ HTREEITEM NextInOrder(const TreeView& tree, HTREEITEM item) {
     return nullptr;
 }
 
+[[noreturn]] void ThrowReplaced() { Throw(E_FAIL, L"The outline was replaced while it was being read"); }
+
 /// Marks the time in which the tree is being rebuilt.
 class RefreshingScope {
   public:
@@ -59,9 +61,10 @@ void BookmarkControl::FollowHost() {
     ThrowIfFailed(host->GetChangeFlags(&flags), L"The host does not tell what changed");
     if (flags & modeChanged) {
         ThrowIfFailed(host->GetDocumentMode(&mode), L"The host does not tell its mode");
-        documentMode_ = mode;
     }
-    if ((flags & outlineChanged) && Host() == host) Rebuild(oneLevel);
+    if (!SameObject(Host(), host)) return;  // another one was attached meanwhile, and read
+    if (flags & modeChanged) documentMode_ = mode;
+    if (flags & outlineChanged) Rebuild(oneLevel);
 }
 
 // Rebuilding
@@ -74,6 +77,7 @@ void BookmarkControl::Rebuild(const OutlineLimits& limits) {
     const RefreshingScope refreshing(refreshing_);
     const OwnHostCalls ours(*this);
     const qzVandraAutoRefresh suspended(host.Get());
+    if (!SameObject(Host(), host)) ThrowReplaced();  // what the tree shows is another host's by now
     ReadOutline(host, limits);
 }
 
@@ -87,7 +91,7 @@ void BookmarkControl::ReadOutline(const ComPtr<IVandraX>& host, const OutlineLim
     ThrowIfFailed(host->GetDocumentMode(&mode), L"The host does not tell its mode");
     ThrowIfFailed(host->GetBookmarks(&root), L"The host does not give its bookmarks");
     if (!root) Throw(E_FAIL, L"The host has no outline");
-    reader.RequireValid();
+    if (!reader.Valid()) ThrowReplaced();
     bookmarkState_ = state;
     documentMode_ = mode;
     if (!BuildTree(root.Get(), reader, limits)) {
@@ -111,7 +115,7 @@ bool BookmarkControl::BuildTree(IDispatch* root, BookmarkReader reader, const Ou
         walk.TopLevel(root, TVI_ROOT);
         return tree_.Root() != nullptr;
     } catch (const OutlineChanged&) {
-        Throw(E_FAIL, L"The outline was replaced while it was being read");
+        ThrowReplaced();
     } catch (const ComError& error) {
         Throw(E_FAIL, error.text);
     }
@@ -120,7 +124,7 @@ bool BookmarkControl::BuildTree(IDispatch* root, BookmarkReader reader, const Ou
 /// A reader that stops when the host or the tree is no longer what it is now.
 BookmarkReader BookmarkControl::MakeReader(const ComPtr<IVandraX>& host) const {
     return BookmarkReader(members_, [this, host, version = tree_.Version()] {
-        return Host() == host && tree_.Version() == version;
+        return SameObject(Host(), host) && tree_.Version() == version;
     });
 }
 

@@ -62,7 +62,7 @@ std::wstring BookmarkReader::TitleOf(IDispatch* bookmark) {
 }
 
 void BookmarkReader::RequireValid() const {
-    if (!valid_()) throw OutlineChanged();
+    if (!Valid()) throw OutlineChanged();
 }
 
 }  // namespace qz

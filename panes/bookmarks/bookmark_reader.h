@@ -34,13 +34,14 @@ class BookmarkReader {
     /// missing, DISP_E_TYPEMISMATCH for answers of another kind, OutlineChanged.
     void Children(const Node& parent, std::vector<BookmarkEntry>& entries);
 
-    /// Throws OutlineChanged.
-    void RequireValid() const;
+    /// What `valid` says now.
+    bool Valid() const { return valid_(); }
 
     /// Not counted: `node` keeps it alive.
     Identity IdentityOf(const Node& node) const;
 
   private:
+    void RequireValid() const;
     long CountOf(IDispatch* bookmark);
     Node ItemOf(IDispatch* parent, long index);
     std::wstring TitleOf(IDispatch* bookmark);

@@ -23,12 +23,12 @@ void PaneControl::Attach(IDispatch* candidate) {
         if (!binding_.Host()) LetGo();
         throw;
     }
+    const ComPtr<IVandraX> attached = binding_.Host();
     try {
-        const ComPtr<IVandraX> attached = binding_.Host();
         if (!attached) Throw(E_ABORT, L"The pane was reset while it was being attached");
         CheckHost(attached.Get());
     } catch (...) {
-        LetGo();
+        if (SameObject(Host(), attached)) LetGo();
         throw;
     }
     if (const HWND window = WindowHandle()) SetWindowTextW(window, Title().c_str());

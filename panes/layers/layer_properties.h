@@ -1,14 +1,14 @@
 // Showing a layer's attributes in the module's properties dialog.
 #pragma once
 
-#include "generated/qzVandraExt.h"
+#include "com/com_ptr.h"
 
-#include <wrl/client.h>
+#include "generated/qzVandraExt.h"
 
 namespace qz {
 
 /// A new properties dialog of this module; null when the module serves none.
-Microsoft::WRL::ComPtr<IqzPropertiesDlg> MakePropertiesDialog() noexcept;
+ComPtr<IqzPropertiesDlg> MakePropertiesDialog() noexcept;
 
 /// Runs the dialog over a window until the user closes it: look again at everything afterwards. Throws the
 /// dialog's failure.

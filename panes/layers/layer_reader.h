@@ -1,13 +1,13 @@
 // What the pane reads from the host: the layer configuration, the layers' names and states.
 #pragma once
 
+#include "com/com_ptr.h"
 #include "host/bstr.h"
 #include "panes/layers/layer_records.h"
 
 #include "generated/vandra_x.h"
 
 #include <comdef.h>
-#include <wrl/client.h>
 
 #include <array>
 #include <memory>
@@ -23,7 +23,7 @@ using LayerTexts = std::array<std::optional<std::wstring>, 4>;
 
 /// The document's layers as they were read.
 struct LayerDocument {
-    std::vector<Microsoft::WRL::ComPtr<IDispatch>> configurations;
+    std::vector<ComPtr<IDispatch>> configurations;
     LayerTexts texts;
     LayerRecords records;
 };

@@ -143,7 +143,7 @@ void LayersControl::Rebuild() {
     if (!host) return;
     LayerDocument document;
     const auto take = [&] {
-        if (Host() == host) Take(std::move(document));
+        if (SameObject(Host(), host)) Take(std::move(document));
     };
     try {
         const OwnHostCalls ours(*this);
@@ -154,7 +154,7 @@ void LayersControl::Rebuild() {
         throw;
     }
     take();
-    if (Host() == host) List();
+    if (SameObject(Host(), host)) List();
 }
 
 void LayersControl::Take(LayerDocument document) {
@@ -172,7 +172,7 @@ void LayersControl::Take(LayerDocument document) {
 
 /// Whether, after foreign code has run, indexes taken before it still mean the same.
 bool LayersControl::StillShows(const ComPtr<IVandraX>& host, unsigned generation) const noexcept {
-    return host && Host() == host && generation_ == generation;
+    return host && SameObject(Host(), host) && generation_ == generation;
 }
 
 void LayersControl::FollowHost() {
@@ -183,7 +183,7 @@ void LayersControl::FollowHost() {
     const HostChange change{static_cast<std::uint32_t>(flags)};
     if (change.Ignored()) return;
     const LayerTexts texts = ReadLayerTexts(host.Get());
-    if (Host() != host) return;
+    if (!SameObject(Host(), host)) return;
     if (texts != texts_) return Rebuild();
     ReadStates(host, change.Names());
     if (change.Page() && DependsOnPage(listLayers_)) List();

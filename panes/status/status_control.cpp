@@ -110,10 +110,10 @@ void StatusControl::FollowHost() { ReadHost(); }
 /// now: false.
 template <class Value, class Read>
 bool StatusControl::ReadInto(const ComPtr<IVandraX>& host, Value& value, Read&& read) {
-    if (Host() != host) return false;
+    if (!SameObject(Host(), host)) return false;
     const HRESULT result = Guard(__uuidof(IqzStatusCtrl), [&] {
         auto told = read();
-        if (Host() != host) return S_FALSE;
+        if (!SameObject(Host(), host)) return S_FALSE;
         value = std::move(told);
         return S_OK;
     });

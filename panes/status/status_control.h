@@ -74,6 +74,7 @@ class StatusControl final
     bool Apply(StatusField entry);
     void ApplyText(StatusField entry, const std::wstring& text);
     void Step(PageStep step);
+    void GoToPage(const ComPtr<IVandraX>& host, std::int32_t page) const;
     void ChooseUnit(POINT screen);
     void GiveFocusBack();
 

@@ -209,10 +209,16 @@ void StatusControl::ApplyText(StatusField entry, const std::wstring& text) {
         } else {
             const std::optional<std::int32_t> page =
                 ParsePage(text, static_cast<std::int32_t>(PageCountOf(host.Get())));
-            if (page) ThrowIfFailed(host->SetCurrentPage(*page), L"The host does not go to the page");
+            if (page) GoToPage(host, *page);
         }
     }
     ReadHost();
+}
+
+/// A host that was let go while it was asked for its pages stays where it is.
+void StatusControl::GoToPage(const ComPtr<IVandraX>& host, std::int32_t page) const {
+    if (!SameObject(Host(), host)) return;
+    ThrowIfFailed(host->SetCurrentPage(page), L"The host does not go to the page");
 }
 
 void StatusControl::Step(PageStep step) {
@@ -222,7 +228,7 @@ void StatusControl::Step(PageStep step) {
         const OwnHostCalls ours(*this);
         const PagePosition position = ReadPagePosition(host.Get());
         const std::optional<std::int32_t> target = StepTarget(step, position.page, position.count);
-        if (target) ThrowIfFailed(host->SetCurrentPage(*target), L"The host does not go to the page");
+        if (target) GoToPage(host, *target);
     }
     ReadHost();
 }
@@ -270,7 +276,7 @@ void StatusControl::ChooseUnit(POINT screen) {
     for (const unsigned text : unitTexts) menu.Append(command++, LoadText(TextLanguage(), text));
     menu.CheckOne(firstUnitCommand, lastUnitCommand, firstUnitCommand + static_cast<UINT>(unit_));
     const UINT chosen = menu.Track(WindowHandle(), screen);
-    if (!chosen || Host() != host) return;
+    if (!chosen || !SameObject(Host(), host)) return;
     ThrowIfFailed(put_UnitOfMeasure(static_cast<StatusCtrlUnitsOfMeasure>(chosen - firstUnitCommand)));
     GiveFocusBack();
 }

@@ -65,13 +65,6 @@ void AttachPicture(IDataObject* data, const DragPicture& picture) {
     if (SUCCEEDED(helper->InitializeFromBitmap(&image, data))) own.Detach();
 }
 
-bool SameObject(IUnknown* one, IUnknown* other) noexcept {
-    ComPtr<IUnknown> first;
-    ComPtr<IUnknown> second;
-    return one && other && SUCCEEDED(one->QueryInterface(IID_PPV_ARGS(&first))) &&
-           SUCCEEDED(other->QueryInterface(IID_PPV_ARGS(&second))) && first.Get() == second.Get();
-}
-
 }  // namespace
 
 PageDrag* CurrentPageDrag() noexcept { return currentDrag; }

@@ -145,7 +145,7 @@ void ThumbnailControl::Rebuild() {
     // The records there were stay until the new ones have been read: emptying the pane first would lose the
     // scroll position, and hide the scroll bar only to show it again.
     const auto take = [&] {
-        if (Host() == host) TakeRecords(std::move(records));
+        if (SameObject(Host(), host)) TakeRecords(std::move(records));
     };
     try {
         if (host) ReadRecords(host.Get(), records);
@@ -184,7 +184,7 @@ void ThumbnailControl::ForgetDrag() {
 
 /// Whether, after foreign code has run, page numbers and indexes taken before it still mean the same.
 bool ThumbnailControl::StillShows(const ComPtr<IVandraX>& host, std::uint64_t generation) const noexcept {
-    return host && Host() == host && model_.Generation() == generation;
+    return host && SameObject(Host(), host) && model_.Generation() == generation;
 }
 
 void ThumbnailControl::MarkCurrent() {
@@ -192,6 +192,7 @@ void ThumbnailControl::MarkCurrent() {
     if (!host) return;
     long page = 0;
     ThrowIfFailed(host->GetCurrentPage(&page), L"The host does not tell its current page");
+    if (!SameObject(Host(), host)) return;
     model_.MakeCurrent(page >= 1 ? std::optional(static_cast<std::size_t>(page) - 1) : std::nullopt);
     Invalidate();
 }
@@ -210,9 +211,11 @@ void ThumbnailControl::Follow(Pages pages) {
     const bool changed = pages == Pages::Changed;
     if (change.Ignored() && !changed) return;
     const long count = PageCountOf(host.Get());
+    if (!SameObject(Host(), host)) return;  // another one was attached meanwhile, and read
     const bool recount = static_cast<std::size_t>(std::max(count, 0l)) != model_.Records().size();
     const bool rebuilt = changed || recount || change.PagesChanged();
     if (rebuilt) Rebuild();
+    if (!SameObject(Host(), host)) return;
     const auto current = page >= 1 ? std::optional(static_cast<std::size_t>(page) - 1) : std::nullopt;
     model_.MakeCurrent(current);
     if (model_.Current()) {

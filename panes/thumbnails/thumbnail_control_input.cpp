@@ -263,7 +263,8 @@ void ThumbnailControl::GoToPage(std::size_t index) {
     const long page = static_cast<long>(index) + 1;
     long current = 0;
     ThrowIfFailed(host->GetCurrentPage(&current), L"The host does not tell its current page");
-    if (current != page) ThrowIfFailed(host->SetCurrentPage(page), L"The host does not go to the page");
+    if (current == page || !SameObject(Host(), host)) return;
+    ThrowIfFailed(host->SetCurrentPage(page), L"The host does not go to the page");
 }
 
 // Context menu

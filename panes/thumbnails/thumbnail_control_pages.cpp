@@ -128,7 +128,7 @@ void ThumbnailControl::ChangePages(const ComPtr<IVandraX>& host, Change&& change
         failure = std::current_exception();
     }
     host->UpdateView(pagesChanged, 1);
-    if (Host() == host) FollowOwnChange();
+    if (SameObject(Host(), host)) FollowOwnChange();
     host->UpdateView(0, 0);
     if (failure) std::rethrow_exception(failure);
 }
@@ -207,7 +207,8 @@ void ThumbnailControl::DragSelection(const ComPtr<IVandraX>& host, std::size_t p
         result = DragPages(host.Get(), pages, allowed, picture);
     }
     if (!result.SourceDeletes() || !StillShows(host, generation)) return;
-    if (!RefusesToDelete(host.Get(), pages.size())) DeletePagesOf(host, pages);
+    if (RefusesToDelete(host.Get(), pages.size())) return;
+    if (StillShows(host, generation)) DeletePagesOf(host, pages);
 }
 
 /// The selected pages and, when it stands among them, the current one.

@@ -176,6 +176,18 @@ void WriteInspected(const EditedAttribute& edited, const _variant_t& value) {
     ShowChange(edited);
 }
 
+/// A host may give out a new reference each time: then the path tells.
+bool SameHostObject(HostObjects& objects, const ComPtr<IDispatch>& one, const ComPtr<IDispatch>& other) {
+    if (SameObject(one, other)) return true;
+    if (!one || !other) return false;
+    bool same = false;
+    Guard(IID_NULL, [&] {
+        const std::wstring path = objects.Path(one.Get());
+        same = !path.empty() && path == objects.Path(other.Get());
+    });
+    return same;
+}
+
 }  // namespace
 
 AttributeValues ReadValues(const EditedAttribute& edited) {
@@ -244,11 +256,7 @@ bool SameValue(HostObjects& objects, const VARIANT& one, const VARIANT& other) {
         return equal;
     }
     if (one.vt == VT_DISPATCH || other.vt == VT_DISPATCH) {
-        const ComPtr<IDispatch> object = ObjectOf(one), otherObject = ObjectOf(other);
-        if (object == otherObject || !object || !otherObject) return object == otherObject;
-        bool same = false;
-        Guard(IID_NULL, [&] { same = objects.Path(object.Get()) == objects.Path(otherObject.Get()); });
-        return same;
+        return SameHostObject(objects, ObjectOf(one), ObjectOf(other));
     }
     const bool none = one.vt == VT_EMPTY || one.vt == VT_NULL;
     const bool otherNone = other.vt == VT_EMPTY || other.vt == VT_NULL;

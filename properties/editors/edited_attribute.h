@@ -76,8 +76,8 @@ void WriteOpened(const EditedAttribute& edited, const AttributeValues& opened);
 /// Writes the old value again. An object that is gone has nothing to take back.
 void TakeBack(HostMembers& members, const AttributeChange& change);
 
-/// Whether two values are the same, arrays included. Objects are the same when they lie at the same path; one
-/// that does not tell its path is like no other.
+/// Whether two values are the same, arrays included. Objects are the same when they are one, or lie at the
+/// same path; another one that does not tell its path is like none.
 bool SameValue(HostObjects& objects, const VARIANT& one, const VARIANT& other);
 
 }  // namespace qz

@@ -117,12 +117,14 @@ STDMETHODIMP PropControl::Closing(long* pAnswer) {
 
 bool PropControl::ConfirmationWanted() {
     const ComPtr<IVandraX> host = Host();
+    const unsigned stage = objectStage_;
     if (!host || !object_ || !changes_ || changes_->Empty() || sharedChanges_) return false;
     ComPtr<IDispatch> found;
     const bool there = !path_.empty() && SUCCEEDED(host->GetObjectByPath(Bstr(path_).Get(), &found));
     _variant_t asked;
     const bool told =
         SUCCEEDED(host->GetObjectAttribute(Bstr(documentPath).Get(), Bstr(confirmAttribute).Get(), &asked));
+    if (stage != objectStage_) return false;  // these changes were forgotten meanwhile
     return MustConfirm(!path_.empty(), there, true, told && IsSet(asked));
 }
 
@@ -147,19 +149,26 @@ void PropControl::FollowHost() {
 
 void PropControl::FollowChange() {
     const ComPtr<IVandraX> host = Host();
+    const unsigned stage = objectStage_;
     long flags = 0;
     ThrowIfFailed(host->GetChangeFlags(&flags), L"The host does not tell what changed");
+    if (stage != objectStage_) return;  // the object that was set meanwhile stays
     if (flags == 0 || (flags & selectionChanged)) return FollowSelection(host.Get());
     if (!object_) return;
-    if (!ObjectIsThere()) return SetObject(nullptr);
+    const bool there = ObjectIsThere();
+    if (stage != objectStage_) return;
+    if (!there) return SetObject(nullptr);
     const ValueDlgPointer editor = editor_;
     if (editor) editor->FollowHost();
 }
 
 void PropControl::FollowSelection(IVandraX* host) {
+    const unsigned stage = objectStage_;
     const ComPtr<IDispatch> current = CurrentObject(host);
     if (!current && !object_) return;
-    if (current && ObjectIsThere() && IsInspected(current.Get())) {
+    const bool inspected = current && ObjectIsThere() && IsInspected(current);
+    if (stage != objectStage_) return;  // the object that was set meanwhile stays
+    if (inspected) {
         ReopenEditor();  // others may be selected with it now
     } else {
         SetObject(current);
@@ -171,20 +180,35 @@ void PropControl::ReopenEditor() {
     if (DialogWindow() && dialog_->ChosenIndex()) OnAttributeChosen();
 }
 
-/// Asks the object itself, as what lies at its old path may be another one by now.
+/// Asks the object itself, as what lies at its old path may be another one by now. False also when another
+/// object was set meanwhile.
 bool PropControl::ObjectIsThere() {
+    const unsigned stage = objectStage_;
     const ComPtr<IDispatch> object = object_;
     const std::shared_ptr<HostMembers> members = members_;
     if (!object || !members) return false;
     std::wstring path;
     if (FAILED(Guard(IID_NULL, [&] { path = members->objects.Path(object.Get()); }))) return false;
-    if (object == object_) path_ = std::move(path);
-    return object == object_;
+    if (stage != objectStage_) return false;
+    path_ = std::move(path);
+    return true;
 }
 
-bool PropControl::IsInspected(IDispatch* object) {
+/// A host may give out a new reference each time: then the path tells.
+bool PropControl::IsInspected(const ComPtr<IDispatch>& object) {
+    if (SameObject(object, object_)) return true;
     const std::shared_ptr<HostMembers> members = members_;
-    return members && members->objects.Path(object) == path_;
+    if (!members) return false;
+    const std::wstring path = members->objects.Path(object.Get());
+    return !path.empty() && path == path_;
+}
+
+/// Whether another object is inspected than when it was asked last.
+bool PropControl::TakeNews() {
+    const ComPtr<IDispatch> before = std::exchange(toldObject_, object_);
+    bool same = SameObject(before, object_);
+    if (!same && before && object_) Guard(IID_NULL, [&] { same = IsInspected(before); });
+    return !same;
 }
 
 // The object
@@ -192,7 +216,6 @@ bool PropControl::IsInspected(IDispatch* object) {
 
 void PropControl::SetObject(const ComPtr<IDispatch>& object) {
     const unsigned stage = ++objectStage_;
-    const ComPtr<IDispatch> before = object_;
     CloseEditor();
     if (stage != objectStage_) return;  // another object was set meanwhile
     changes_.reset();
@@ -207,7 +230,7 @@ void PropControl::SetObject(const ComPtr<IDispatch>& object) {
         reason = error.text;
     }
     if (stage != objectStage_) return;
-    if (object_ != before) events_.Raise(3);
+    if (TakeNews() && stage == objectStage_) events_.Raise(3);
     ThrowIfFailed(failure, reason.c_str());
 }
 

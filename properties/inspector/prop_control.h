@@ -63,7 +63,8 @@ class PropControl final
     void FollowSelection(IVandraX* host);
     void ReopenEditor();
     bool ObjectIsThere();
-    bool IsInspected(IDispatch* object);
+    bool IsInspected(const ComPtr<IDispatch>& object);
+    bool TakeNews();
     bool ConfirmationWanted();
 
     // prop_control_list.cpp: tabs, list, editor
@@ -107,6 +108,7 @@ class PropControl final
     PaneEvents events_;
     std::shared_ptr<HostMembers> members_;
     ComPtr<IDispatch> object_;
+    ComPtr<IDispatch> toldObject_;  ///< The one that the container was told of last.
     std::wstring path_;
     std::shared_ptr<AttributeChanges> changes_;
     std::shared_ptr<AttributeChanges> sharedChanges_;  ///< Of the inspector that this one serves, if any.

@@ -1,6 +1,8 @@
 // A host that fails at any one call of a step.
 #include "outline_fixture.h"
 
+#include "tests/support/interrupted_host.h"
+
 namespace qz {
 namespace {
 
@@ -101,6 +103,36 @@ TEST_F(BookmarksFailMidway, InitializeAndTheHostsEvent) {
               }),
               15);
     Sweep([this] { return host->RaiseChange(0x8001); });
+}
+
+TEST_F(BookmarksFailMidway, AnotherHostIsAttachedInsideAnyOneCall) {
+    ShowOutline();
+    const auto other = MakeHost(2);
+    ComPtr<IDispatch> outline;
+    ComPtr<IHostBookmark> otherRoot;
+    ASSERT_EQ(other->GetBookmarks(&outline), S_OK);
+    ASSERT_EQ(outline.As(&otherRoot), S_OK);
+    AddBookmark(AddBookmark(otherRoot.Get(), L"X").Get(), L"X1");
+    const std::function<void()> steps[] = {[&] { pane->Initialize(host.Get()); }, [&] { pane->ExpandAll(); },
+                                           [&] { host->RaiseChange(0x8001); }, [&] { Expand(Find(L"A")); },
+                                           [&] {
+                                               SendMessageW(Tree(), TVM_SELECTITEM, TVGN_CARET,
+                                                            reinterpret_cast<LPARAM>(Find(L"A")));
+                                               SendMessageW(Tree(), WM_KEYDOWN, VK_MULTIPLY, 1);
+                                           }};
+    for (const std::function<void()>& step : steps) {
+        EXPECT_GT(InterruptEachCall(
+                      host.Get(), [&] { ASSERT_EQ(pane->Initialize(host.Get()), S_OK); }, step,
+                      [&] { EXPECT_EQ(pane->Initialize(other.Get()), S_OK); },
+                      [&] {
+                          EXPECT_EQ(Shown(), L"X+");
+                          EXPECT_EQ(SinkCount(host.Get()), 0);
+                          long automatic = 0;
+                          host->GetAutoRefresh(&automatic);
+                          EXPECT_EQ(automatic, 1);
+                      }),
+                  5);
+    }
 }
 
 }  // namespace

@@ -1,14 +1,13 @@
 // The built DLL of the reference host: registered, created by its name, unregistered without a trace.
+#include "com/com_ptr.h"
+
 #include "generated/reference_host.h"
 
 #include <gtest/gtest.h>
 #include <windows.h>
-#include <wrl/client.h>
 
 namespace qz::sample {
 namespace {
-
-using Microsoft::WRL::ComPtr;
 
 constexpr const wchar_t* keys[] = {
     L"VandraX.ReferenceHost",

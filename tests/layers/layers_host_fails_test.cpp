@@ -1,6 +1,8 @@
 // A host that fails at any one call: for every call of a step there is a run in which just that call fails.
 #include "layers_fixture.h"
 
+#include "tests/support/interrupted_host.h"
+
 #include <functional>
 
 namespace qz {
@@ -96,6 +98,31 @@ TEST_F(LayersHostFails, FollowingAChange) {
         host->ClearFaults();
         host->RaiseChange(0xFFFF);
         EXPECT_EQ(Items(), L"+A[+B -c] +D") << "failing call " << number;
+    }
+}
+
+TEST_F(LayersHostFails, AnotherHostIsAttachedInsideAnyOneCall) {
+    Open();
+    ASSERT_EQ(pane->put_ListLayers(qzLayersCtrlListLayers_ForCurrentPage), S_OK);
+    const auto other = MakeHost(1);
+    ThrowIfFailed(other->AddLayer(_bstr_t(L"X"), _bstr_t(L"X"), 1));
+    const auto writes = [&] { return CallCount(host.Get(), L"SetObjectAttribute"); };
+    long written = 0;
+    const std::function<void()> steps[] = {
+        [&] { pane->Initialize(host.Get()); }, [&] { host->RaiseChange(0xFFFF); },
+        [&] { Click(L"A", Part::Check); }, [&] { pane->ResetToInitialVisibility(); }};
+    for (const std::function<void()>& step : steps) {
+        InterruptEachCall(
+            host.Get(), [&] { ASSERT_EQ(pane->Initialize(host.Get()), S_OK); }, step,
+            [&] {
+                EXPECT_EQ(pane->Initialize(other.Get()), S_OK);
+                written = writes();
+            },
+            [&] {
+                EXPECT_EQ(Items(), L"+X");
+                EXPECT_EQ(writes(), written) << "a host that was let go is written to";
+                EXPECT_EQ(SinkCount(host.Get()), 0);
+            });
     }
 }
 

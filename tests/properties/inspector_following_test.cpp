@@ -1,6 +1,7 @@
 // The inspector and its host: what is selected, what vanishes, what a host without offers.
 #include "tests/properties/inspector_fixture.h"
 #include "tests/support/during_modal.h"
+#include "tests/support/interrupted_host.h"
 
 namespace qz {
 namespace {
@@ -42,6 +43,7 @@ TEST_F(InspectorFollows, ShowsWhatIsSelected) {
     EXPECT_EQ(events->TakeEvents(), Events{"3"});
     Select(L"Objects[C]", true);
     EXPECT_EQ(InspectedPath(), L"Objects[C]");
+    EXPECT_EQ(events->TakeEvents(), Events{"3"}) << "from one object to another";
     EXPECT_EQ(SelectionName(), L"<multiple-selection>");
     ASSERT_TRUE(Choose(L"Checked"));
     ASSERT_EQ(host->RemoveObject(_bstr_t(L"Objects[C]")), S_OK);
@@ -50,6 +52,83 @@ TEST_F(InspectorFollows, ShowsWhatIsSelected) {
     EXPECT_EQ(SelectionName(), L"<no-object>");
     EXPECT_EQ(Editor(), nullptr);
     EXPECT_FALSE(IsWindowVisible(Inner()));
+}
+
+TEST_F(InspectorFollows, TheSameObjectAgainIsNoNewsButStartsAnew) {
+    const auto field = Create(typeField, L"F"), other = Create(typeField, L"G");
+    SetValue(L"Document", L"AlwaysConfirmAttributeChanges", 1L);
+    Open();
+    Inspect(other);
+    Inspect(field);
+    EXPECT_EQ(events->TakeEvents(), (Events{"3", "3"}));
+    for (const bool wrapped : {false, true}) {
+        ComPtr<IDispatch> again = field;
+        if (wrapped) {
+            ASSERT_EQ(host->GetObjectByPath(_bstr_t(L"Objects[F]"), &again), S_OK);
+        }
+        ASSERT_TRUE(Choose(L"Locked"));
+        Click(Field(QZ_EDITOR_CHECK));
+        Add(L"Objects[F]", wrapped ? L"Second" : L"First", L'*', 0, 8, _variant_t(L"x"));
+        const size_t before = Names().size();
+        Inspect(again);
+        EXPECT_EQ(Names().size(), before + 1);
+        EXPECT_EQ(events->TakeEvents(), Events{});
+        long answer = 99;
+        EXPECT_EQ(pane->Closing(&answer), S_OK);
+        EXPECT_EQ(answer, 99) << "no change is left to ask about";
+    }
+    // Another object at the path of one that is gone.
+    ASSERT_EQ(host->RemoveObject(_bstr_t(L"Objects[G]")), S_OK);
+    Inspect(field);
+    host->SetAutoRefresh(0);
+    ASSERT_EQ(host->RemoveObject(_bstr_t(L"Objects[F]")), S_OK);
+    events->TakeEvents();
+    Inspect(Create(typeField, L"F"));
+    EXPECT_EQ(events->TakeEvents(), Events{"3"});
+    host->SetAutoRefresh(1);
+}
+
+TEST_F(InspectorFollows, AnotherObjectOrHostIsSetInsideAnyOneCall) {
+    const auto field = Create(typeField, L"F"), other = Create(typeField, L"G"),
+               third = Create(typeField, L"H");
+    const auto otherHost = MakeHost(1);
+    Create(typeCheckBox, L"C");
+    Open();
+    Select(L"Objects[C]");
+    const std::function<void()> steps[] = {[&] { host->RaiseChange(2); }, [&] { host->RaiseChange(0x400); },
+                                           [&] { pane->put_Object(third.Get()); },
+                                           [&] { Choose(L"Visible"); },
+                                           [&] {
+                                               long answer = 0;
+                                               pane->Closing(&answer);
+                                           }};
+    for (const bool exchangesHost : {false, true}) {
+        for (const std::function<void()>& step : steps) {
+            EXPECT_GT(InterruptEachCall(
+                          host.Get(),
+                          [&] {
+                              if (exchangesHost) ThrowIfFailed(pane->put_VandraX(host.Get()));
+                              Inspect(field);
+                              ASSERT_TRUE(Choose(L"Locked"));
+                              Click(Field(QZ_EDITOR_CHECK));
+                              events->TakeEvents();
+                          },
+                          step,
+                          [&] {
+                              EXPECT_EQ(exchangesHost ? pane->put_VandraX(otherHost.Get())
+                                                      : pane->put_Object(other.Get()),
+                                        S_OK);
+                          },
+                          [&] {
+                              ComPtr<IDispatch> attached;
+                              ASSERT_EQ(pane->get_VandraX(&attached), S_OK);
+                              EXPECT_TRUE(SameObject(attached, exchangesHost ? otherHost : host));
+                              EXPECT_EQ(InspectedPath(), exchangesHost ? L"" : L"Objects[G]");
+                              EXPECT_EQ(events->TakeEvents(), Events{"3"});
+                          }),
+                      0);
+        }
+    }
 }
 
 TEST_F(InspectorFollows, ObjectsThatAreNotSelectedStayUntilTheyVanish) {

@@ -114,6 +114,18 @@ TEST_F(ObjectListEditor, ListsWhatTheHostGives) {
     }
 }
 
+TEST_F(ObjectListEditor, ListsThatDifferInTheirObjectsAlone) {
+    Create(typeFormAction, L"Act2");
+    for (const size_t listed : {0, 1}) {
+        SetValue(L"Objects[Act2]", L"Fields", ObjectArray(std::span(fields).subspan(listed, 1)));
+        Select(L"Objects[Act2]");
+        Select(L"Objects[Act]", true);
+        Reopen();
+        EXPECT_EQ(Shown(), listed == 0 ? L"+One Two Late " : L"One Two Late ");
+        EXPECT_EQ(ValueCaption(), listed == 0 ? L"Value" : L"Value (several)");
+    }
+}
+
 TEST_F(ObjectListEditor, RefusalsAndReadOnlyLists) {
     host->FailOperation(_bstr_t(L"Attribute.Value"), E_ACCESSDENIED);
     Toggle(1);

@@ -2,7 +2,7 @@
 #include "status_fixture.h"
 
 #include "panes/status/status_reader.h"
-#include "tests/support/event_recorder.h"
+#include "tests/support/interrupted_host.h"
 
 namespace qz {
 namespace {
@@ -114,6 +114,43 @@ TEST_F(StatusHostFails, ResetAndReleaseWithinTheEvent) {
     EXPECT_EQ(bar, nullptr);
     recorder->Disconnect();
     EXPECT_EQ(SinkCount(host.Get()), 0);
+}
+
+TEST_F(StatusHostFails, AnotherHostIsAttachedInsideAnyOneCall) {
+    const auto host = MakeHost(3), other = MakeHost(7);
+    SelectNew(host.Get(), L"Stamp", {1, 2, 3, 4});
+    other->put_LanguageId(MAKELANGID(LANG_GERMAN, SUBLANG_GERMAN));
+    Show(host.Get());
+    const auto moves = [&] { return CallCount(host.Get(), L"SetCurrentPage"); };
+    long moved = 0;
+    const std::function<void()> steps[] = {
+        [&] { bar->Initialize(host.Get()); }, [&] { host->RaiseChange(0); },
+        [&] { SendMessageW(Field(NextPage), BM_CLICK, 0, 0); },
+        [&] {
+            SendMessageW(Field(PagePosition), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L"2"));
+            SendMessageW(Field(PagePosition), WM_KEYDOWN, VK_RETURN, 1);
+        }};
+    for (const std::function<void()>& step : steps) {
+        EXPECT_GT(InterruptEachCall(
+                      host.Get(),
+                      [&] {
+                          host->SetCurrentPage(1);
+                          ASSERT_EQ(bar->Initialize(host.Get()), S_OK);
+                      },
+                      step,
+                      [&] {
+                          EXPECT_EQ(bar->Initialize(other.Get()), S_OK);
+                          moved = moves();
+                      },
+                      [&] {
+                          EXPECT_EQ(Text(PagePosition), L"1 / 7");
+                          EXPECT_EQ(Text(ObjectName), L"");
+                          EXPECT_TRUE(Text(PageSize).starts_with(L"Seite")) << "the language is its own";
+                          EXPECT_EQ(moves(), moved) << "a host that was let go is moved";
+                          EXPECT_EQ(SinkCount(host.Get()), 0);
+                      }),
+                  5);
+    }
 }
 
 /// An object whose attributes are whatever the test wants.

@@ -1,6 +1,8 @@
 // A host that fails at any one call: for every call of a step there is a run in which just that call fails.
 #include "pane_fixture.h"
 
+#include "tests/support/interrupted_host.h"
+
 #include <functional>
 
 namespace qz {
@@ -20,6 +22,18 @@ class HostFailsMidway : public PaneTest {
         long initialized = -1;
         pane->get_IsInitialized(&initialized);
         EXPECT_EQ(initialized, SinkCount(host)) << "after failing call " << number;
+    }
+
+    /// What the pane shows, every few pixels.
+    std::vector<COLORREF> Pixels() {
+        PumpMessages();
+        std::vector<COLORREF> pixels;
+        const HDC dc = GetDC(PaneWindow());
+        for (int y = 0; y < paneSize.cy; y += 4) {
+            for (int x = 0; x < paneSize.cx; x += 20) pixels.push_back(GetPixel(dc, x, y));
+        }
+        ReleaseDC(PaneWindow(), dc);
+        return pixels;
     }
 
     /// Runs `step` with its first call failing, then its second, ... until one run meets no fault.
@@ -85,6 +99,37 @@ TEST_F(HostFailsMidway, HostChange) {
         // The next change finds the pane in order again.
         host->RaiseChange(0x80);
         EXPECT_EQ(pane->ScrollPageThumbIntoView(4), S_OK) << "after failing call " << number;
+    }
+}
+
+TEST_F(HostFailsMidway, AnotherHostIsAttachedInsideAnyOneCall) {
+    Activate();
+    const auto host = MakeHost(3), other = MakeHost(2);
+    other->SetCurrentPage(1);
+    ASSERT_EQ(pane->Initialize(other.Get()), S_OK);
+    const std::vector<COLORREF> shown = Pixels();
+    const std::function<void()> steps[] = {[&] { pane->Initialize(host.Get()); },
+                                           [&] { pane->RedrawAllThumbs(); }, [&] { host->RaiseChange(0x80); },
+                                           [&] { host->RaiseChange(0x1); },
+                                           [&] {
+                                               SendMessageW(PaneWindow(), WM_KEYDOWN, VK_HOME, 1);
+                                               SendMessageW(PaneWindow(), WM_KEYDOWN, VK_RETURN, 1);
+                                           }};
+    for (const std::function<void()>& step : steps) {
+        EXPECT_GT(InterruptEachCall(
+                      host.Get(),
+                      [&] {
+                          host->SetCurrentPage(2);
+                          ASSERT_EQ(pane->Initialize(host.Get()), S_OK);
+                      },
+                      step, [&] { EXPECT_EQ(pane->Initialize(other.Get()), S_OK); },
+                      [&] {
+                          SendMessageW(PaneWindow(), WM_KEYDOWN, VK_ESCAPE, 1);  // selects nothing
+                          EXPECT_EQ(pane->ScrollPageThumbIntoView(3), E_FAIL);
+                          EXPECT_EQ(Pixels(), shown) << "pages and the current one are the new host's";
+                          EXPECT_EQ(SinkCount(host.Get()), 0);
+                      }),
+                  1);
     }
 }
 
