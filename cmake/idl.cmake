@@ -22,7 +22,9 @@ function(qz_add_idl target idl)
         set(commands COMMAND ${widl} -h -o ${base}.h ${source} COMMAND ${widl} -u -o ${base}_i.c ${source}
                      COMMAND ${widl} -t -o ${base}.tlb ${source})
     else()
-        set(commands COMMAND midl /nologo /x64 /I ${CMAKE_SOURCE_DIR} /h ${base}.h /iid ${base}_i.c /tlb ${base}.tlb ${source})
+        # Proxies are not built, but midl writes them into the folder where it runs unless told otherwise.
+        set(commands COMMAND midl /nologo /x64 /I ${CMAKE_SOURCE_DIR} /out ${QZ_GENERATED_DIR} /h ${base}.h
+                     /iid ${base}_i.c /tlb ${base}.tlb /proxy ${base}_p.c /dlldata ${base}_dlldata.c ${source})
     endif()
     # widl looks for imported files from where it runs.
     add_custom_command(OUTPUT ${outputs} ${commands} DEPENDS ${source} WORKING_DIRECTORY ${CMAKE_SOURCE_DIR} VERBATIM)

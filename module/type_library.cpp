@@ -4,9 +4,11 @@
 
 #include <iterator>
 
-// Not in every SDK's headers; the system has had them since Windows Vista.
+#ifdef __MINGW32__
+// The system has had them since Windows Vista; this toolchain's headers have not.
 STDAPI RegisterTypeLibForUser(ITypeLib* library, OLECHAR* path, OLECHAR* helpFolder);
 STDAPI UnRegisterTypeLibForUser(REFGUID id, WORD major, WORD minor, LCID locale, SYSKIND system);
+#endif
 
 namespace qz {
 

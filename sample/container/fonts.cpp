@@ -6,7 +6,7 @@
 #include <olectl.h>
 
 #include <cstdlib>
-#include <cwchar>
+#include <string_view>
 
 namespace qz {
 
@@ -20,10 +20,11 @@ LOGFONTW MessageFont() noexcept {
     metrics.cbSize = sizeof metrics;
     if (SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0))
         return metrics.lfMessageFont;
+    constexpr std::wstring_view face = L"Segoe UI";
     LOGFONTW fallback{};
     fallback.lfHeight = -MulDiv(9, DpiOf(nullptr), pointsPerInch);
     fallback.lfCharSet = DEFAULT_CHARSET;
-    wcscpy(fallback.lfFaceName, L"Segoe UI");
+    face.copy(fallback.lfFaceName, face.size());
     return fallback;
 }
 

@@ -12,7 +12,7 @@ constexpr char32_t replacement = 0xFFFD;
 
 /// Takes one character off the front of a UTF-8 text.
 char32_t TakeUtf8(std::string_view& text) {
-    const auto byte = [&](size_t i) { return i < text.size() ? static_cast<uint8_t>(text[i]) : 0; };
+    const auto byte = [&](size_t i) { return static_cast<uint8_t>(i < text.size() ? text[i] : 0); };
     const uint8_t lead = byte(0);
     const size_t length = lead < 0x80         ? 1
                           : (lead >> 5) == 6  ? 2
