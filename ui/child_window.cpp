@@ -6,17 +6,23 @@
 
 namespace qz {
 
-void ChildWindow::Create(HWND parent, const ChildOptions& options) {
+HWND MakeChild(HWND parent, const ChildOptions& options) {
     const RECT& bounds = options.bounds;
-    Attach(CreateWindowExW(options.extendedStyle, options.className, options.text,
-                           options.style | WS_CHILD | WS_CLIPSIBLINGS, bounds.left, bounds.top,
-                           bounds.right - bounds.left, bounds.bottom - bounds.top, parent,
-                           reinterpret_cast<HMENU>(static_cast<INT_PTR>(options.id)), ThisModule(), nullptr));
+    const ModuleActivation activation;
+    const HWND made = CreateWindowExW(
+        options.extendedStyle, options.className, options.text, options.style | WS_CHILD | WS_CLIPSIBLINGS,
+        bounds.left, bounds.top, bounds.right - bounds.left, bounds.bottom - bounds.top, parent,
+        reinterpret_cast<HMENU>(static_cast<INT_PTR>(options.id)), ThisModule(), nullptr);
+    ThrowLastErrorIf(!made, L"A child window cannot be made");
+    return made;
 }
 
+void ChildWindow::Create(HWND parent, const ChildOptions& options) { Attach(MakeChild(parent, options)); }
+
 void ChildWindow::Attach(HWND child) {
-    ThrowLastErrorIf(!child, L"A child window cannot be made");
+    if (!child) Throw(E_INVALIDARG, L"There is no such child window");
     if (handle_) Throw(E_UNEXPECTED, L"The child window is there already");
+    caller_.Capture();
     handle_ = child;
     // Not the window's own procedure, nor one id for all: there may be several of these on the window.
     classProcedure_ = reinterpret_cast<WNDPROC>(GetClassLongPtrW(handle_, GCLP_WNDPROC));
@@ -43,15 +49,22 @@ LRESULT ChildWindow::Dispatch(HWND handle, UINT message, WPARAM wParam, LPARAM l
         handle_ = nullptr;
         return DefSubclassProc(handle, message, wParam, lParam);
     }
-    std::optional<LRESULT> result;
-    const HRESULT outcome = Guard(IID_NULL, [&] { result = OnMessage(message, wParam, lParam); });
-    if (FAILED(outcome)) ShowErrorInDebugger();
+    std::optional<LRESULT> result = Handle(message, wParam, lParam);
     if (!result) result = DefSubclassProc(handle, message, wParam, lParam);
     if ((message == WM_SETFOCUS || message == WM_KILLFOCUS) && IsWindow(handle)) {
         SendMessageW(GetParent(handle), childFocusMessage, message == WM_SETFOCUS ? 1 : 0,
                      static_cast<LPARAM>(wParam));
     }
     return *result;
+}
+
+/// The class itself runs under the context that its window was made in: it makes windows of its own.
+std::optional<LRESULT> ChildWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam) noexcept {
+    const CallerActivation caller(caller_);
+    std::optional<LRESULT> result;
+    const HRESULT outcome = Guard(IID_NULL, [&] { result = OnMessage(message, wParam, lParam); });
+    if (FAILED(outcome)) ShowErrorInDebugger();
+    return result;
 }
 
 }  // namespace qz

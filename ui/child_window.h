@@ -2,6 +2,7 @@
 #pragma once
 
 #include "com/object.h"
+#include "ui/activation.h"
 
 #include <windows.h>
 
@@ -18,6 +19,9 @@ struct ChildOptions {
     int id = 0;
     RECT bounds{};  ///< In client pixels of the parent.
 };
+
+/// Makes a child window in the version of the controls that is the module's. Throws when the system refuses.
+HWND MakeChild(HWND parent, const ChildOptions& options);
 
 /// Sent to the parent when a child window got (wParam non-zero) or lost the focus; lParam is the other window
 /// that lost or gets it. `Control` takes it as its own focus.
@@ -61,10 +65,12 @@ class ChildWindow {
     static LRESULT CALLBACK Procedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
                                       DWORD_PTR self) noexcept;
     LRESULT Dispatch(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
+    std::optional<LRESULT> Handle(UINT message, WPARAM wParam, LPARAM lParam) noexcept;
     UINT_PTR Id() const noexcept { return reinterpret_cast<UINT_PTR>(this); }
 
     HWND handle_ = nullptr;
     WNDPROC classProcedure_ = nullptr;
+    CallerContext caller_;
 };
 
 }  // namespace qz

@@ -45,7 +45,30 @@ bool AnswersDirectly(UINT message) noexcept {
     }
 }
 
-constexpr INT_PTR failedToInitialize = -2;
+/// What the system does for a dialog that leaves the focus to it, but no longer under the module's activation
+/// context, as it takes the focus from other windows. Dialogs within others wait for the user to come to
+/// them.
+void FocusFirstControl(HWND dialog) noexcept {
+    if (GetWindowLongW(dialog, GWL_STYLE) & WS_CHILD) return;
+    const HWND first = GetNextDlgTabItem(dialog, nullptr, FALSE);
+    if (first) {
+        SendMessageW(dialog, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(first), TRUE);
+    } else {
+        SetFocus(dialog);
+    }
+}
+
+/// Says which loop runs a dialog as long as it does.
+class ModalScope {
+  public:
+    ModalScope(ModalLoop*& running, ModalLoop& loop) noexcept : running_(running) { running_ = &loop; }
+    ~ModalScope() { running_ = nullptr; }
+    ModalScope(const ModalScope&) = delete;
+    ModalScope& operator=(const ModalScope&) = delete;
+
+  private:
+    ModalLoop*& running_;
+};
 
 }  // namespace
 
@@ -64,24 +87,33 @@ Dialog::~Dialog() {
 
 void Dialog::Create(HWND parent) {
     if (handle_) Throw(E_UNEXPECTED, L"The dialog is there already");
-    initFailure_ = S_OK;
-    const HWND made = CreateDialogParamW(ThisModule(), MAKEINTRESOURCEW(templateId_), parent, &Procedure,
-                                         reinterpret_cast<LPARAM>(this));
-    ThrowLastErrorIf(!made, L"The dialog cannot be made");
-    if (FAILED(initFailure_)) {
-        Destroy();
-        Throw(initFailure_, initFailureText_);
-    }
+    MakeWindow(parent);
 }
 
 INT_PTR Dialog::RunModal(HWND owner) {
     if (handle_) Throw(E_UNEXPECTED, L"The dialog is there already");
-    initFailure_ = S_OK;
-    const INT_PTR result = DialogBoxParamW(ThisModule(), MAKEINTRESOURCEW(templateId_), owner, &Procedure,
-                                           reinterpret_cast<LPARAM>(this));
-    if (FAILED(initFailure_)) Throw(initFailure_, initFailureText_);
-    ThrowLastErrorIf(result == -1, L"The dialog cannot be made");
+    ModalLoop loop(owner);
+    const ModalScope scope(modal_, loop);
+    MakeWindow(owner);
+    const INT_PTR result = loop.Run(handle_);
+    Destroy();
     return result;
+}
+
+void Dialog::MakeWindow(HWND parent) {
+    caller_.Capture();
+    initFailure_ = S_OK;
+    {
+        const ModuleActivation activation;
+        const HWND made = CreateDialogParamW(ThisModule(), MAKEINTRESOURCEW(templateId_), parent, &Procedure,
+                                             reinterpret_cast<LPARAM>(this));
+        ThrowLastErrorIf(!made, L"The dialog cannot be made");
+    }
+    if (FAILED(initFailure_)) {
+        Destroy();
+        Throw(initFailure_, initFailureText_);
+    }
+    FocusFirstControl(handle_);
 }
 
 void Dialog::Destroy() noexcept {
@@ -89,7 +121,7 @@ void Dialog::Destroy() noexcept {
 }
 
 void Dialog::EndModal(INT_PTR result) noexcept {
-    if (handle_) EndDialog(handle_, result);
+    if (handle_ && modal_) modal_->End(handle_, result);
 }
 
 void Dialog::OnMessageFailed(HRESULT) noexcept { ShowErrorInDebugger(); }
@@ -143,6 +175,7 @@ INT_PTR CALLBACK Dialog::Procedure(HWND handle, UINT message, WPARAM wParam, LPA
 INT_PTR Dialog::Dispatch(UINT message, WPARAM wParam, LPARAM lParam) noexcept {
     const std::shared_ptr<Dialog> self = weak_from_this().lock();
     const ComPtr<IUnknown> owner = KeepAlive();
+    const CallerActivation caller(caller_);
     const HWND handle = handle_;
     if (message == WM_INITDIALOG) return Initialize();
     bool handled = false;
@@ -174,8 +207,7 @@ INT_PTR Dialog::Initialize() noexcept {
     } catch (...) {
         initFailure_ = TurnException(IID_NULL);
     }
-    if (FAILED(initFailure_)) EndDialog(handle_, failedToInitialize);  // Create destroys it
-    return TRUE;
+    return FALSE;  // MakeWindow sets the focus, and destroys a dialog that failed
 }
 
 std::optional<LRESULT> Dialog::Handle(UINT message, WPARAM wParam, LPARAM lParam) {

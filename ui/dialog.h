@@ -3,6 +3,8 @@
 
 #include "com/object.h"
 #include "res/language.h"
+#include "ui/activation.h"
+#include "ui/modal_loop.h"
 
 #include <windows.h>
 
@@ -53,6 +55,7 @@ class Dialog : public std::enable_shared_from_this<Dialog> {
     /// The object that this dialog is a part of, counted for the duration of every message.
     virtual ComPtr<IUnknown> KeepAlive() noexcept { return nullptr; }
 
+    /// Hides the dialog at once; RunModal destroys it.
     void EndModal(INT_PTR result) noexcept;
 
     Language TextLanguage() const noexcept { return language_; }
@@ -74,6 +77,8 @@ class Dialog : public std::enable_shared_from_this<Dialog> {
     SIZE Pixels(SIZE dialogUnits) const noexcept;
 
   private:
+    /// The window, and the focus on its first control; OnInit's failure thrown.
+    void MakeWindow(HWND parent);
     static INT_PTR CALLBACK Procedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
     INT_PTR Dispatch(UINT message, WPARAM wParam, LPARAM lParam) noexcept;
     INT_PTR Initialize() noexcept;
@@ -82,6 +87,8 @@ class Dialog : public std::enable_shared_from_this<Dialog> {
     void ForgetNames() noexcept;
 
     HWND handle_ = nullptr;
+    CallerContext caller_;
+    ModalLoop* modal_ = nullptr;  ///< While it runs.
     unsigned templateId_;
     Language language_;
     std::vector<HWND> named_;  ///< For assistive tools.

@@ -2,6 +2,7 @@
 
 #include "com/error.h"
 #include "com/module.h"
+#include "ui/activation.h"
 
 #include <windows.h>
 
@@ -15,7 +16,10 @@ class RegisteredField {
     explicit RegisteredField(const wchar_t* name) {
         WNDCLASSEXW description{};
         description.cbSize = sizeof description;
-        ThrowLastErrorIf(!GetClassInfoExW(nullptr, L"EDIT", &description), L"There is no edit control");
+        {
+            const ModuleActivation activation;
+            ThrowLastErrorIf(!GetClassInfoExW(nullptr, L"EDIT", &description), L"There is no edit control");
+        }
         description.hInstance = ThisModule();
         description.lpszClassName = name;
         description.style &= ~static_cast<UINT>(CS_GLOBALCLASS);

@@ -4,10 +4,12 @@ namespace qz {
 
 namespace {
 
-// One class for all windows of the module. Its name is looked up together with the module's handle, so
-// modules do not disturb each other. A library's classes outlive it unless it takes them back: a class left
-// behind would send messages to code that is gone, and stop the library from registering when it is loaded at
-// the same place again. Therefore this static object, which goes when the module is unloaded.
+// One class for all windows of the module, made outside the module's activation context: the class is our
+// own, and the system would keep the context with every window. Its name is looked up together with the
+// module's handle, so modules do not disturb each other. A library's classes outlive it unless it takes them
+// back: a class left behind would send messages to code that is gone, and stop the library from registering
+// when it is loaded at the same place again. Therefore this static object, which goes when the module is
+// unloaded.
 class RegisteredClass {
   public:
     explicit RegisteredClass(WNDPROC procedure) {
@@ -46,6 +48,7 @@ Window::~Window() {
 void Window::Create(const WindowOptions& options) {
     if (handle_) Throw(E_UNEXPECTED, L"The window is there already");
     static const RegisteredClass registered(&Window::Procedure);
+    caller_.Capture();
     const RECT& bounds = options.bounds;
     const HWND made =
         CreateWindowExW(options.extendedStyle, registered.Name(), options.title.c_str(), options.style,
@@ -82,6 +85,7 @@ LRESULT CALLBACK Window::Procedure(HWND handle, UINT message, WPARAM wParam, LPA
 
 LRESULT Window::Dispatch(UINT message, WPARAM wParam, LPARAM lParam) noexcept {
     const ComPtr<IUnknown> alive = KeepAlive();
+    const CallerActivation caller(caller_);
     const HWND handle = handle_;  // the window may be gone when the message has been handled
     if (message == WM_DESTROY) going_ = true;
     std::optional<LRESULT> result;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "com/object.h"
+#include "ui/activation.h"
 
 #include <windows.h>
 
@@ -59,6 +60,7 @@ class Window {
 
     HWND handle_ = nullptr;
     bool going_ = false;  ///< Since WM_DESTROY.
+    CallerContext caller_;
 };
 
 }  // namespace qz

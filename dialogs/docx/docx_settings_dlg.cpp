@@ -1,12 +1,12 @@
 #include "dialogs/docx/docx_settings_dlg.h"
 
-#include "com/module.h"
 #include "dialogs/common/label_mnemonics.h"
 #include "dialogs/common/record_dialog.h"
 #include "dialogs/docx/docx_fields.h"
 #include "properties/editors/choose_file.h"
 #include "res/strings.h"
 #include "res/text_ids.h"
+#include "ui/child_window.h"
 #include "ui/text_edit.h"
 
 #include <commdlg.h>
@@ -114,11 +114,8 @@ class DocxDialog final : public RecordDialog {
     /// A hidden control; its place in dialog units.
     HWND Make(const wchar_t* className, const wchar_t* text, DWORD style, int id, RECT place) {
         MapDialogRect(Handle(), &place);
-        const HWND made =
-            CreateWindowExW(0, className, text, WS_CHILD | WS_CLIPSIBLINGS | style, place.left, place.top,
-                            place.right - place.left, place.bottom - place.top, Handle(),
-                            reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), ThisModule(), nullptr);
-        ThrowLastErrorIf(!made, L"A control cannot be made");
+        const HWND made = MakeChild(
+            Handle(), {.className = className, .text = text, .style = style, .id = id, .bounds = place});
         SendMessageW(made, WM_SETFONT, static_cast<WPARAM>(SendMessageW(Handle(), WM_GETFONT, 0, 0)), FALSE);
         SetWindowPos(made, last_, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
         last_ = made;

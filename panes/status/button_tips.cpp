@@ -1,14 +1,16 @@
 #include "panes/status/button_tips.h"
 
 #include "com/module.h"
+#include "ui/activation.h"
 
 #include <utility>
 
 namespace qz {
 
-void ButtonTips::Create(HWND pane) noexcept {
+void ButtonTips::Create(HWND pane) {
     Destroy();
     pane_ = pane;
+    const ModuleActivation activation;
     tips_ = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX,
                             CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, pane, nullptr,
                             ThisModule(), nullptr);

@@ -17,7 +17,7 @@ class ButtonTips {
     ButtonTips& operator=(const ButtonTips&) = delete;
 
     /// Tips are a convenience: a system that gives no window for them leaves the pane without.
-    void Create(HWND pane) noexcept;
+    void Create(HWND pane);
     void Destroy() noexcept;
     /// Gives a child its tip, or another one.
     void Set(HWND child, const std::wstring& text) noexcept;

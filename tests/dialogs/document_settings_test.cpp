@@ -272,6 +272,25 @@ TEST_F(DocumentDialogTest, TheWindowMayGoAtAnyWrite) {
     }
 }
 
+TEST_F(DocumentDialogTest, TheOwnerIsDisabledMeanwhileAndTheEndOfTheProgramIsPassedOn) {
+    {
+        const DuringModal during([&] {
+            EXPECT_FALSE(IsWindowEnabled(owner));
+            EXPECT_TRUE(IsChild(Window(), GetFocus()));
+            PostQuitMessage(7);
+        });
+        EXPECT_EQ(dialog->DoModal(_variant_t(HandleToLong(owner))), S_OK);
+    }
+    MSG message{};
+    ASSERT_TRUE(PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
+    EXPECT_EQ(message.wParam, 7u);
+    EXPECT_TRUE(IsWindowEnabled(owner));
+    EXPECT_EQ(GetActiveWindow(), owner);
+    EnableWindow(owner, FALSE);
+    Run([] {});
+    EXPECT_FALSE(IsWindowEnabled(owner)) << "as it was before";
+}
+
 TEST_F(DocumentDialogTest, BadParentsAndHosts) {
     EXPECT_EQ(dialog->DoModal(_variant_t(L"no window")), E_INVALIDARG);
     EXPECT_EQ(dialog->DoModal(_variant_t(0x7FFFFFF0L)), E_INVALIDARG);
