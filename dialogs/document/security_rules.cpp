@@ -6,8 +6,8 @@ std::optional<Protection> ProtectionToApply(const Protection& document, const Pr
     const bool same = entered.permissions == document.permissions && entered.owner == document.owner &&
                       entered.user == document.user;
     if (same) return std::nullopt;
-    if (entered.level != 40 && entered.level != 128) return Protection{};
-    return entered;
+    const bool removes = entered.level && entered.level != 40 && entered.level != 128;
+    return removes ? Protection{} : entered;
 }
 
 }  // namespace qz

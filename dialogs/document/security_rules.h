@@ -13,8 +13,9 @@ inline constexpr std::int32_t allowCopying = 16;
 inline constexpr std::int32_t allowAnnotating = 32;
 
 struct Protection {
-    std::int32_t level = 0;  ///< Bits of the key: 40 or 128; anything else is no protection.
-    std::wstring owner;      ///< Passwords.
+    /// Bits of the key: 40 or 128; anything else is no protection. Nothing when none is chosen.
+    std::optional<std::int32_t> level = 0;
+    std::wstring owner;  ///< Passwords.
     std::wstring user;
     std::int32_t permissions = 0;  ///< Bits as above, and others that are kept.
 
@@ -30,7 +31,8 @@ constexpr std::int32_t Granted(std::int32_t permissions, std::int32_t ticked) no
 }
 
 /// What the document is to be protected with; nothing when neither a password nor a permission is another
-/// one: a level alone changes nothing. No protection has no passwords and no permissions.
+/// one: a level alone changes nothing. No protection has no passwords and no permissions. Without a level
+/// chosen the result has none either, and is not to be applied: nobody has asked to remove the protection.
 std::optional<Protection> ProtectionToApply(const Protection& document, const Protection& entered);
 
 }  // namespace qz

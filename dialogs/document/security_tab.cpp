@@ -1,11 +1,15 @@
 #include "dialogs/document/security_tab.h"
 
+#include "dialogs/common/setting_field.h"
 #include "dialogs/document/entered_text.h"
 #include "host/text_variant.h"
 #include "res/dialog_ids.h"
 #include "res/text_ids.h"
 
 #include <commctrl.h>
+
+#include <algorithm>
+#include <iterator>
 
 namespace qz {
 
@@ -53,10 +57,7 @@ void CDocSettingsDlgTab2::OnInit() {
 // ------------------------------------------------------------------------------------------------------
 
 void CDocSettingsDlgTab2::Fill() {
-    const std::int32_t level = LevelOf(ReadNumber(L"Security"));
-    for (std::size_t i = 0; i < std::size(levels); ++i) {
-        if (levels[i].level == level) SendItem(QZ_SECURITY_LEVEL, CB_SETCURSEL, i);
-    }
+    ShowLevel(LevelOf(ReadNumber(L"Security")));
     const std::wstring owner = ReadText(L"OwnerPassword");
     SetItemText(QZ_SECURITY_OWNER, owner);
     SetItemText(QZ_SECURITY_OWNER_CONFIRMATION, owner);
@@ -71,6 +72,16 @@ void CDocSettingsDlgTab2::Fill() {
     }
 }
 
+/// A level that the list does not know has no entry; the hint names it.
+void CDocSettingsDlgTab2::ShowLevel(std::int32_t level) const {
+    const auto entry = std::ranges::find(levels, level, &LevelEntry::level);
+    if (entry != std::end(levels)) {
+        SendItem(QZ_SECURITY_LEVEL, CB_SETCURSEL, static_cast<WPARAM>(entry - std::begin(levels)));
+    } else {
+        SetItemText(QZ_SECURITY_LEVEL_HINT, Filled(Text(QZ_TEXT_LEVEL_UNLISTED), {std::to_wstring(level)}));
+    }
+}
+
 CDocSettingsDlgTab2::Passwords CDocSettingsDlgTab2::ShownPasswords() const {
     return {ItemText(QZ_SECURITY_OWNER), ItemText(QZ_SECURITY_OWNER_CONFIRMATION), ItemText(QZ_SECURITY_USER),
             ItemText(QZ_SECURITY_USER_CONFIRMATION)};
@@ -81,9 +92,10 @@ CDocSettingsDlgTab2::Passwords CDocSettingsDlgTab2::ShownPasswords() const {
 
 void CDocSettingsDlgTab2::Write() {
     wrongConfirmation_ = 0;
+    levelMissing_ = false;
     refused_ = false;
     const Passwords now = ShownPasswords();
-    const std::int32_t level = ChosenLevel();
+    const std::optional<std::int32_t> level = ChosenLevel();
     const std::int32_t ticked = Ticked();
     const Protection document = ReadProtection();
     const auto entered = [&](std::wstring Passwords::*field, const std::wstring& source) {
@@ -97,6 +109,8 @@ void CDocSettingsDlgTab2::Write() {
                      QZ_SECURITY_USER_CONFIRMATION);
     const auto change = ProtectionToApply(document, wanted);
     if (!change) return;
+    levelMissing_ = !change->level;
+    if (levelMissing_) Throw(E_INVALIDARG, L"No level of protection is chosen");
     Apply(*change);
     // What the document has from now on; after the protection was removed every entry counts as a new one.
     const bool taken = change->owner == wanted.owner && change->user == wanted.user;
@@ -113,9 +127,9 @@ Protection CDocSettingsDlgTab2::ReadProtection() {
     return protection;
 }
 
-std::int32_t CDocSettingsDlgTab2::ChosenLevel() const noexcept {
+std::optional<std::int32_t> CDocSettingsDlgTab2::ChosenLevel() const noexcept {
     const LRESULT chosen = SendItem(QZ_SECURITY_LEVEL, CB_GETCURSEL);
-    if (chosen < 0) return 0;
+    if (chosen < 0) return std::nullopt;
     return static_cast<std::int32_t>(
         SendItem(QZ_SECURITY_LEVEL, CB_GETITEMDATA, static_cast<WPARAM>(chosen)));
 }
@@ -148,6 +162,9 @@ void CDocSettingsDlgTab2::ShowFailure(HRESULT code) {
         MessageBeep(MB_ICONERROR);
         SetFocus(Item(wrongConfirmation_));
         SendItem(wrongConfirmation_, EM_SETSEL, 0, -1);
+    } else if (levelMissing_) {
+        ShowError(Text(QZ_TEXT_LEVEL_NEEDED));
+        if (Handle()) SetFocus(Item(QZ_SECURITY_LEVEL));
     } else if (refused_) {
         ShowError(Text(QZ_TEXT_OWNER_PASSWORD_NEEDED));
     } else {

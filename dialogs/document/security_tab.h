@@ -23,7 +23,8 @@ class CDocSettingsDlgTab2 final : public CDocSettingsDlgTab {
     void Write() override;
     Protection ReadProtection();
     Passwords ShownPasswords() const;
-    std::int32_t ChosenLevel() const noexcept;
+    void ShowLevel(std::int32_t level) const;
+    std::optional<std::int32_t> ChosenLevel() const noexcept;
     std::int32_t Ticked() const noexcept;
     /// Throws when the confirmation is another one.
     void RequireConfirmed(const std::wstring& password, const std::wstring& confirmation, int confirmationId);
@@ -31,6 +32,7 @@ class CDocSettingsDlgTab2 final : public CDocSettingsDlgTab {
 
     Passwords shown_;
     int wrongConfirmation_ = 0;  ///< The field that let the tab fail.
+    bool levelMissing_ = false;
     bool refused_ = false;
 };
 

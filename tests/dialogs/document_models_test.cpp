@@ -138,6 +138,8 @@ TEST(SecurityRules, ChangesNothingUnlessAPasswordOrAPermissionChanges) {
     EXPECT_EQ(ProtectionToApply(document, entered), entered);
     entered.level = 0;
     EXPECT_EQ(ProtectionToApply(document, entered), Protection{}) << "taken away";
+    entered.level = std::nullopt;
+    EXPECT_EQ(ProtectionToApply(document, entered), entered) << "not taken away: none is chosen";
     entered = document;
     entered.user.clear();
     EXPECT_EQ(ProtectionToApply(document, entered), entered);

@@ -202,6 +202,38 @@ TEST_F(DocumentDialogTest, PasswordsMustBeConfirmed) {
     EXPECT_EQ(EncryptCalls(), 0);
 }
 
+// The document has a level that the list does not know, or does not tell its level.
+TEST_F(DocumentDialogTest, ProtectionIsNotTakenAwayWithoutAChoice) {
+    Protect(L"own", L"use", 4);
+    for (const bool told : {true, false}) {
+        Override(L"Security", told ? _variant_t(256L) : _variant_t(L"secret"));
+        Run([&] {
+            EXPECT_EQ(Chosen(QZ_SECURITY_LEVEL), CB_ERR);
+            EXPECT_EQ(Shown(QZ_SECURITY_LEVEL_HINT).find(L"256") != std::wstring::npos, told);
+            EXPECT_EQ(host->ClearOverrides(), S_OK);
+            Press(QZ_SECURITY_ALLOW_COPYING);
+            const MessageBoxAnswer shown(IDOK);
+            Press(IDOK);
+            EXPECT_EQ(shown.Text(),
+                      L"Choose a security level. Without one, passwords and permissions are not changed.");
+            EXPECT_EQ(ShownTab(), 1);
+            EXPECT_EQ(GetFocus(), Item(QZ_SECURITY_LEVEL));
+            EXPECT_EQ(EncryptCalls(), 0);
+            if (told) return;
+            Choose(QZ_SECURITY_LEVEL, 2);
+            Press(IDOK);
+            EXPECT_EQ(Window(), nullptr) << "with a choice it goes on";
+        });
+    }
+    EXPECT_EQ(EncryptCalls(), 1);
+    EXPECT_EQ(Number(L"Security"), 128);
+    EXPECT_EQ(Number(L"Permissions"), 4 + 16);
+    EXPECT_EQ(Text(L"OwnerPassword"), L"own");
+    Override(L"Security", 256L);
+    Run([] { Press(IDOK); });
+    EXPECT_EQ(EncryptCalls(), 1) << "with nothing changed there is nothing to choose";
+}
+
 TEST_F(DocumentDialogTest, ARefusedProtectionIsTold) {
     Run([&] {
         EXPECT_EQ(host->FailOperation(_bstr_t(L"Encrypt128"), E_ACCESSDENIED), S_OK);
@@ -363,6 +395,7 @@ TEST_F(DocumentDialogTest, ControlWithTabGoesFromTabToTab) {
 }
 
 TEST_F(DocumentDialogTest, FitsInEveryLanguage) {
+    Override(L"Security", 65535L);  // named in the longer of the two hints
     for (const long language : {0x0409, 0x0407, 0x0C0A, 0x040C, 0x0410, 0x0411, 0x041D}) {
         EXPECT_EQ(host->put_LanguageId(language), S_OK);
         Run([&] {
