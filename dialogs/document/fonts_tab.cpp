@@ -14,9 +14,13 @@ namespace qz {
 
 namespace {
 
+/// By level.
+constexpr unsigned levelTexts[embeddingLevelCount] = {QZ_TEXT_NO_EMBEDDING, QZ_TEXT_PARTIAL_EMBEDDING,
+                                                      QZ_TEXT_FULL_EMBEDDING};
+
 constexpr ListColumn fontColumns[] = {{QZ_TEXT_FONT_NAME_COLUMN, 40},
                                       {QZ_TEXT_FONT_TYPE_COLUMN, 16},
-                                      {QZ_TEXT_EMBEDDING_COLUMN, 24},
+                                      {QZ_TEXT_EMBEDDING_COLUMN, 24, levelTexts},
                                       {QZ_TEXT_ENCODING_COLUMN, 20}};
 
 constexpr wchar_t namelessFont[] = L"\n**** A font object was found having no FontName attribute value\n";
@@ -45,7 +49,7 @@ CDocSettingsDlgTab4::CDocSettingsDlgTab4(const SettingsSource& source, Language 
     : CDocSettingsDlgTab(QZ_DIALOG_DOCUMENT_FONTS, source, language) {}
 
 void CDocSettingsDlgTab4::OnInit() {
-    levels_ = {Text(QZ_TEXT_NO_EMBEDDING), Text(QZ_TEXT_PARTIAL_EMBEDDING), Text(QZ_TEXT_FULL_EMBEDDING)};
+    std::ranges::transform(levelTexts, levels_.begin(), [this](unsigned id) { return Text(id); });
     AddColumns(Item(QZ_FONTS_LIST), fontColumns, TextLanguage());
     keys_.Watch(Handle());
 }

@@ -12,6 +12,8 @@ namespace qz {
 struct ListColumn {
     unsigned textId;
     int percent;  ///< Of the list's width.
+    /// The texts of the string table that it shows: like its caption, they are not cut.
+    std::span<const unsigned> ownTexts{};
 };
 
 /// Gives a list view its columns; whole rows are selected. Throws when the list takes no column.

@@ -1,4 +1,5 @@
 // What the document settings decide without a window.
+#include "dialogs/document/column_widths.h"
 #include "dialogs/document/entered_text.h"
 #include "dialogs/document/font_rows.h"
 #include "dialogs/document/page_setup.h"
@@ -151,6 +152,16 @@ TEST(EnteredText, KeepsWhatAFieldCannotShow) {
     EXPECT_EQ(EnteredText(L"one line", L"one line", L"one line\r\ntwo", 4), L"one line\r\ntwo");
     EXPECT_EQ(EnteredText(L"another", L"one line", L"one line\r\ntwo", 4), L"anot");
     EXPECT_EQ(EnteredText(L"", L"x", L"x", 4), L"");
+}
+
+TEST(ColumnWidths, AreSharesButNoLessThanIsNeeded) {
+    using Widths = std::vector<int>;
+    const auto widths = [](int list, std::vector<ColumnWish> wishes) { return ColumnWidths(list, wishes); };
+    EXPECT_EQ(widths(200, {{40, 50}, {35, 70}, {25, 50}}), (Widths{80, 70, 50}));
+    EXPECT_EQ(widths(200, {{40, 50}, {35, 70}, {25, 75}}), (Widths{55, 70, 75})) << "from who has most";
+    EXPECT_EQ(widths(200, {{40, 20}, {35, 20}, {25, 140}}), (Widths{20, 40, 140})) << "from several";
+    EXPECT_EQ(widths(100, {{50, 80}, {50, 90}}), (Widths{80, 90})) << "wider than the list";
+    EXPECT_EQ(widths(0, {}), Widths());
 }
 
 TEST(FontRows, SubsetsLevelsAndOrder) {

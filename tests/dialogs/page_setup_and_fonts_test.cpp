@@ -194,6 +194,26 @@ TEST_F(FontsTest, ListsThemAndSortsByColumn) {
     });
 }
 
+TEST_F(FontsTest, TheEmbeddingIsReadableInEveryLanguage) {
+    for (const long level : {0L, 1L, 2L}) Font((L"F" + std::to_wstring(level)).c_str(), L"Zapf", L"", level);
+    GiveFonts();
+    for (const long language : {0x0409, 0x0407, 0x0C0A, 0x040C, 0x0410, 0x0411, 0x041D}) {
+        EXPECT_EQ(host->put_LanguageId(language), S_OK);
+        Run([&] {
+            const LRESULT room = Send(QZ_FONTS_LIST, LVM_GETCOLUMNWIDTH, 2) - 12;  // the margins of a cell
+            for (const std::wstring& text : Column(2)) {
+                EXPECT_LE(Send(QZ_FONTS_LIST, LVM_GETSTRINGWIDTHW, 0, reinterpret_cast<LPARAM>(text.c_str())),
+                          room)
+                    << language;
+            }
+            SCROLLINFO across{sizeof(SCROLLINFO), SIF_RANGE | SIF_PAGE, 0, 0, 0, 0, 0};
+            if (GetScrollInfo(Item(QZ_FONTS_LIST), SB_HORZ, &across)) {
+                EXPECT_LE(across.nMax, static_cast<int>(across.nPage)) << "all columns show, " << language;
+            }
+        });
+    }
+}
+
 TEST_F(FontsTest, AChoiceIsWrittenAtOnce) {
     Font(L"F1", L"Zapf", L"", 1);
     Font(L"F2", L"ABCDEF+Arial", L"Arial", 0);
