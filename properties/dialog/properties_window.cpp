@@ -184,12 +184,12 @@ void PropertiesWindow::PlaceWindow(HWND parent) const noexcept {
     const Rect monitor = BoundsOf(MonitorFromWindow(over, MONITOR_DEFAULTTOPRIMARY));
     const std::optional<Rect> saved = state_.memory.Read();
     if (Has(qzPropertiesDlgOptions_CenterWindow)) {
-        MoveTo(Handle(), Centred(saved.value_or(PlaceOf(Handle())), monitor, dpi));
+        MoveTo(Handle(), Centred(saved.value_or(PlaceOf(Handle())), monitor, monitor, dpi));
     } else if (saved) {
         MoveTo(Handle(), Visible(Clamp(*saved, Desktop(), dpi), dpi));
     } else {
         const Rect around = over && !IsIconic(over) ? PlaceOf(over) : monitor;
-        MoveTo(Handle(), Clamp(Centred(PlaceOf(Handle()), around, dpi), Desktop(), dpi));
+        MoveTo(Handle(), Centred(PlaceOf(Handle()), around, monitor, dpi));
     }
 }
 

@@ -44,9 +44,10 @@ Edges Inside(const Edges& edges, const Edges& desktop) noexcept {
     return {low, low + edges.Extent()};
 }
 
-Edges Middle(const Edges& edges, const Edges& desktop) noexcept {
-    const std::int64_t low = desktop.low + (desktop.Extent() - edges.Extent()) / 2;
-    return Inside({low, low + edges.Extent()}, desktop);
+/// Around the same middle, beyond both ends of what is smaller.
+Edges Middle(const Edges& edges, const Edges& around) noexcept {
+    const std::int64_t low = around.low + (around.Extent() - edges.Extent()) / 2;
+    return {low, low + edges.Extent()};
 }
 
 Axes LimitedAxes(const Rect& window, int dpi) noexcept {
@@ -62,10 +63,12 @@ Rect Clamp(const Rect& window, const Rect& desktop, int dpi) noexcept {
     return RectOf({Inside(limited.across, whole.across), Inside(limited.down, whole.down)});
 }
 
-Rect Centred(const Rect& window, const Rect& desktop, int dpi) noexcept {
+Rect Centred(const Rect& window, const Rect& around, const Rect& desktop, int dpi) noexcept {
     const Axes limited = LimitedAxes(window, dpi);
+    const Axes other = AxesOf(around);
     const Axes whole = AxesOf(desktop);
-    return RectOf({Middle(limited.across, whole.across), Middle(limited.down, whole.down)});
+    return RectOf({Inside(Middle(limited.across, other.across), whole.across),
+                   Inside(Middle(limited.down, other.down), whole.down)});
 }
 
 std::optional<Rect> SavedPlacement(std::optional<std::int32_t> left, std::optional<std::int32_t> right,

@@ -15,8 +15,9 @@ namespace qz {
 /// edges always are.
 Rect Clamp(const Rect& window, const Rect& desktop, int dpi = 96) noexcept;
 
-/// The window in the middle of the desktop, its size within the same limits.
-Rect Centred(const Rect& window, const Rect& desktop, int dpi = 96) noexcept;
+/// The window with its middle on that of `around`, which may be smaller, but inside the desktop as far as it
+/// fits; its size within the same limits.
+Rect Centred(const Rect& window, const Rect& around, const Rect& desktop, int dpi = 96) noexcept;
 
 /// The rectangle saved, when all four of its edges were.
 std::optional<Rect> SavedPlacement(std::optional<std::int32_t> left, std::optional<std::int32_t> right,

@@ -142,6 +142,13 @@ TEST_F(PropertiesDialogTest, PlaceIsKeptWithinLimits) {
     EXPECT_EQ(Saved(L"bottom"), 550);
 }
 
+TEST_F(PropertiesDialogTest, StandsInTheMiddleOfASmallerOwnerToo) {
+    SetWindowPos(owner, nullptr, 600, 500, 120, 80, SWP_NOZORDER);
+    ASSERT_EQ(dialog->DoModeless(Owner()), S_OK);
+    EXPECT_NEAR((Place().left + Place().right) / 2, 660, 1);
+    EXPECT_NEAR((Place().top + Place().bottom) / 2, 540, 1);
+}
+
 TEST_F(PropertiesDialogTest, KeysOfAMenuAreNotTheDialogs) {
     ASSERT_EQ(dialog->DoModeless(Owner()), S_OK);
     SetFocus(GetDlgItem(InnerDialog(), QZ_INSPECTOR_LIST));

@@ -27,17 +27,21 @@ TEST(WindowPlacement, ShiftsTheWindowInside) {
     EXPECT_EQ(Clamp({50, 50, 550, 450}, {0, 0, 320, 200}), (Rect{0, 0, 500, 400})) << "left and top show";
 }
 
-TEST(WindowPlacement, CentresInsideTheDesktop) {
-    EXPECT_EQ(Centred({0, 0, 500, 400}, desktop), (Rect{390, 312, 890, 712}));
-    EXPECT_EQ(Centred({0, 0, 500, 400}, {-1000, 0, 0, 1000}), (Rect{-750, 300, -250, 700}));
-    EXPECT_EQ(Centred({0, 0, 500, 400}, {0, 0, 320, 200}), (Rect{0, 0, 500, 400}));
+TEST(WindowPlacement, CentresOnAnyOwnerInsideTheDesktop) {
+    constexpr Rect window{0, 0, 500, 400}, left{-1000, 0, 0, 1000}, small{0, 0, 320, 200};
+    EXPECT_EQ(Centred(window, desktop, desktop), (Rect{390, 312, 890, 712}));
+    EXPECT_EQ(Centred(window, left, left), (Rect{-750, 300, -250, 700}));
+    EXPECT_EQ(Centred(window, {600, 500, 700, 560}, desktop), (Rect{400, 330, 900, 730})) << "a smaller one";
+    EXPECT_EQ(Centred(window, {1200, 10, 1300, 60}, desktop), (Rect{780, 0, 1280, 400})) << "at the edge";
+    EXPECT_EQ(Centred(window, small, small), window) << "left and top show";
 }
 
 TEST(WindowPlacement, AnyFourNumbersMakeAWindowOnTheDesktop) {
     for (const Rect& garbage :
          {Rect{lowest, lowest, highest, highest}, Rect{highest, highest, lowest, lowest},
           Rect{lowest, lowest, lowest, lowest}, Rect{highest, highest, highest, highest}}) {
-        for (const Rect& placed : {Clamp(garbage, desktop), Centred(garbage, desktop)}) {
+        for (const Rect& placed : {Clamp(garbage, desktop), Centred(garbage, desktop, desktop),
+                                   Centred(garbage, garbage, desktop)}) {
             EXPECT_EQ(placed.Intersected(desktop), placed);
             EXPECT_TRUE(placed.Width() >= 400 && placed.Width() <= 600);
             EXPECT_TRUE(placed.Height() >= 300 && placed.Height() <= 600);
