@@ -1,5 +1,7 @@
 #include "panes/bookmarks/bookmark_tree.h"
 
+#include "ui/keys.h"
+
 #include <windowsx.h>
 
 namespace qz {
@@ -189,7 +191,10 @@ std::optional<LRESULT> BookmarkTree::OnDoubleClick(POINT point) {
     return 0;
 }
 
+/// While no item is selected, as after the tree was filled, a key that moves the selection begins at the
+/// first one. The window would do nothing.
 std::optional<LRESULT> BookmarkTree::OnKey(WPARAM key) {
+    if (IsNavigationKey(key) && SelectFirst()) return 0;
     const HTREEITEM item = Selected();
     if (!item) return std::nullopt;
     switch (key) {

@@ -67,6 +67,12 @@ void TreeView::DeleteChildren(HTREEITEM parent) {
     while (const HTREEITEM child = FirstChild(parent)) DeleteItem(child);
 }
 
+bool TreeView::SelectFirst() {
+    const HTREEITEM first = Selected() ? nullptr : Root();
+    if (first) Select(first);
+    return first != nullptr;
+}
+
 bool TreeView::Expanded(HTREEITEM item) const noexcept {
     return (SendToClass(TVM_GETITEMSTATE, reinterpret_cast<WPARAM>(item), TVIS_EXPANDED) & TVIS_EXPANDED) !=
            0;

@@ -41,6 +41,8 @@ class TreeView : public ChildWindow {
     HTREEITEM NextSibling(HTREEITEM item) const noexcept { return Next(TVGN_NEXT, item); }
     HTREEITEM Parent(HTREEITEM item) const noexcept { return Next(TVGN_PARENT, item); }
     HTREEITEM Selected() const noexcept { return Next(TVGN_CARET, nullptr); }
+    /// The first item when none is selected; whether it has been. Nothing in an empty tree.
+    bool SelectFirst();
     void Select(HTREEITEM item) { Send(TVM_SELECTITEM, TVGN_CARET, reinterpret_cast<LPARAM>(item)); }
 
     bool Expanded(HTREEITEM item) const noexcept;

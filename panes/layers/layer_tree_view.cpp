@@ -81,7 +81,7 @@ std::optional<LRESULT> LayerTreeView::OnButton(UINT message, LPARAM lParam) {
 /// selected, the first one when there was none.
 LRESULT LayerTreeView::OnKey(UINT message, WPARAM wParam, LPARAM lParam) {
     const ComPtr<IUnknown> alive = listener_.KeepAlive();
-    if (!Selected() && Root()) Select(Root());
+    SelectFirst();
     if (wParam == VK_SPACE) {
         const bool repeated = HIWORD(lParam) & KF_REPEAT;
         if (message == WM_KEYDOWN && !repeated) listener_.OnSpace();

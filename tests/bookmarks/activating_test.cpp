@@ -42,6 +42,23 @@ TEST_F(Activating, ByEnterAndDoubleClick) {
     EXPECT_EQ(CallCount(host.Get(), L"SetAutoRefresh"), 2) << "only the first rebuild's";
 }
 
+TEST_F(Activating, MovingBeginsAtTheFirstItemWhenNoneIsSelected) {
+    ShowOutline();
+    for (const WPARAM key : {VK_RETURN, VK_MULTIPLY, VK_ADD, VK_BACK}) {
+        Press(key);
+        EXPECT_EQ(Next(TVGN_CARET), nullptr) << key;
+    }
+    EXPECT_EQ(Shown(), L"A+ B C+");
+    for (const WPARAM key : {VK_DOWN, VK_UP, VK_HOME, VK_END, VK_NEXT, VK_PRIOR, VK_LEFT, VK_RIGHT}) {
+        SendMessageW(Tree(), TVM_SELECTITEM, TVGN_CARET, 0);
+        Press(key);
+        EXPECT_EQ(TextOf(Next(TVGN_CARET)), L"A") << key;
+    }
+    EXPECT_EQ(Shown(), L"A+ B C+") << "and nothing is expanded";
+    Press(VK_DOWN);
+    EXPECT_EQ(TextOf(Next(TVGN_CARET)), L"B");
+}
+
 TEST_F(Activating, AHostThatFailsOrChangesTheOutline) {
     ShowOutline();
     host->FailOperation(_bstr_t(L"Bookmark.Activate"), E_FAIL);
