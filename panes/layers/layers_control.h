@@ -99,6 +99,7 @@ class LayersControl final : public Object<LayersControl, PaneControl, Dispatch<I
     void ToggleByUser(std::size_t record);
     void RefuseBelowHidden();
     bool OnContextMenu(WPARAM wParam, LPARAM lParam);
+    bool IsAboutSelection(const MenuRequest& request) const;
     POINT KeyboardMenuPoint() const;
     void Run(LayerCommand command);
     void RunCommand(LayerCommand command, const ComPtr<IVandraX>& host);

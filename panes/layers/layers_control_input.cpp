@@ -155,12 +155,25 @@ bool LayersControl::OnContextMenu(WPARAM wParam, LPARAM lParam) {
     if (std::exchange(lastMenuRequest_, request) == request) return true;
     const ComPtr<IVandraX> host = Host();
     const unsigned generation = generation_;
+    const bool aboutSelection = IsAboutSelection(request);
     const POINT screen = request.ByKeyboard() ? KeyboardMenuPoint() : request.ScreenPoint();
     if (!events_.ContextSensitiveMenu(screen.x, screen.y)) return true;
     if (!StillShows(host, generation) || !WindowHandle()) return true;
-    const auto command = ShowLayerMenu(WindowHandle(), screen, TextLanguage(), CommandState());
+    LayerCommandState state = CommandState();
+    state.layerSelected = state.layerSelected && aboutSelection;
+    const auto command = ShowLayerMenu(WindowHandle(), screen, TextLanguage(), state);
     if (command && StillShows(host, generation) && CommandState().Enables(*command)) Run(*command);
     return true;
+}
+
+/// Not on an item that was pressed but not selected, as the container did not want it: what is done with the
+/// selected layer would be done with another one than the user points at.
+bool LayersControl::IsAboutSelection(const MenuRequest& request) const {
+    if (request.ByKeyboard()) return true;
+    POINT client = request.ScreenPoint();
+    ScreenToClient(tree_.Handle(), &client);
+    const HTREEITEM item = tree_.ItemAt(client);
+    return !item || item == tree_.Selected();
 }
 
 /// Screen pixels: below the selected item's text, or at the pane's corner.

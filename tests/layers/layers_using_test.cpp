@@ -227,6 +227,21 @@ TEST_F(LayersMenu, GreyedWithNothingToDo) {
     EXPECT_NE(Ask(L""), L"") << "an empty tree";
 }
 
+TEST_F(LayersMenu, GreyedWhereTheContainerRefusedTheSelection) {
+    Configure(L"AB", L"(A)(B)");
+    Connect();
+    Open();
+    Click(L"A", Part::Text);
+    events->answers[1] = 0;
+    const std::wstring menu = Ask(L"B", 0);
+    EXPECT_TRUE(menu.starts_with(L"~Show Only This Layer|Show All Layers|")) << testing::PrintToString(menu);
+    EXPECT_TRUE(menu.ends_with(L"|~Properties...")) << testing::PrintToString(menu);
+    EXPECT_EQ(HostStates(), L"+A+B");
+    EXPECT_EQ(Selected(), Item(L"A"));
+    EXPECT_TRUE(Ask(L"A").starts_with(L"Show Only This Layer|")) << "on the selected one";
+    EXPECT_TRUE(Ask(L"").starts_with(L"Show Only This Layer|")) << "by key";
+}
+
 TEST_F(LayersMenu, EventComesFirst) {
     Configure(L"A", L"(A)");
     Connect();
