@@ -20,6 +20,10 @@ std::wstring Compose(HRESULT code, std::wstring_view text) {
 
 void Throw(HRESULT code, std::wstring_view text) { throw ComError(code, Compose(code, text)); }
 
+void Rethrow(HRESULT code, const std::wstring& text) {
+    throw ComError(code, text.empty() ? DescribeError(code) : text);
+}
+
 void RequirePointer(const void* pointer) {
     if (!pointer) Throw(E_POINTER, L"A pointer argument is null");
 }

@@ -25,6 +25,10 @@ struct ComError : std::exception {
 /// Throws a ComError. An empty text is replaced by the system's own text for the code.
 [[noreturn]] void Throw(HRESULT code, std::wstring_view text = {});
 
+/// Throws an error that has its whole text already: one caught before, now with another code or at another
+/// place, or one that the object called has told itself. An empty text is replaced as above.
+[[noreturn]] void Rethrow(HRESULT code, const std::wstring& text);
+
 /// Throws when `code` is a failure. `text` says what was attempted; the system's text is appended.
 inline void ThrowIfFailed(HRESULT code, const wchar_t* text = nullptr) {
     if (FAILED(code)) Throw(code, text ? std::wstring_view(text) : std::wstring_view());

@@ -64,7 +64,8 @@ _variant_t LateBoundMember::Invoke(IDispatch* object, WORD flags, DISPPARAMS& pa
     if (code == DISP_E_EXCEPTION) {
         const HRESULT inner = exception.Code();
         const std::wstring description = exception.Description();
-        Throw(inner, description.empty() ? name_ : description);
+        if (description.empty()) Throw(inner, L"The host object's member \"" + name_ + L"\" fails");
+        Rethrow(inner, description);
     }
     if (FAILED(code)) Throw(code, L"The host object's member \"" + name_ + L"\" fails");
     return result;

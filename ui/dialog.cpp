@@ -111,7 +111,7 @@ void Dialog::MakeWindow(HWND parent) {
     }
     if (FAILED(initFailure_)) {
         Destroy();
-        Throw(initFailure_, initFailureText_);
+        Rethrow(initFailure_, initFailureText_);
     }
     FocusFirstControl(handle_);
 }

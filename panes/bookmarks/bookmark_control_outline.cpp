@@ -117,7 +117,7 @@ bool BookmarkControl::BuildTree(IDispatch* root, BookmarkReader reader, const Ou
     } catch (const OutlineChanged&) {
         ThrowReplaced();
     } catch (const ComError& error) {
-        Throw(E_FAIL, error.text);
+        Rethrow(E_FAIL, error.text);
     }
 }
 

@@ -79,7 +79,7 @@ STDMETHODIMP PropertiesDlg::DoModeless(VARIANT hWndParent) {
             window->ShowModeless(parent);
         } catch (const ComError& error) {
             window->Destroy();
-            Throw(E_FAIL, error.text);
+            Rethrow(E_FAIL, error.text);
         }
     });
 }

@@ -127,7 +127,7 @@ void WriteAlone(const EditedAttribute& edited, const _variant_t& value) {
 void WriteSelection(const EditedAttribute& edited, const std::wstring& name, const _variant_t& value) {
     SetErrorInfo(0, nullptr);  // so that what is there afterwards is the host's
     const HRESULT outcome = edited.host->SetSelectionAttribute(Bstr(name).Get(), value, 1);
-    if (FAILED(outcome)) throw ComError(outcome, TakeErrorText(outcome));
+    if (FAILED(outcome)) Rethrow(outcome, TakeErrorText(outcome));
 }
 
 /// The inspected object and those others that have the attribute: a host writes a whole selection or nothing

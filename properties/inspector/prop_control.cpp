@@ -231,7 +231,7 @@ void PropControl::SetObject(const ComPtr<IDispatch>& object) {
     }
     if (stage != objectStage_) return;
     if (TakeNews() && stage == objectStage_) events_.Raise(3);
-    ThrowIfFailed(failure, reason.c_str());
+    if (FAILED(failure)) Rethrow(failure, reason);
 }
 
 void PropControl::TakeObject(const ComPtr<IDispatch>& object) {

@@ -80,7 +80,7 @@ void PropControl::ShowObject() {
     if (stage != objectStage_ || !DialogWindow() || !object_) return;
     if (FAILED(read)) {
         dialog_->RemoveTabs();
-        throw ComError(read, TakeErrorText(read));
+        Rethrow(read, TakeErrorText(read));
     }
     const std::vector<wchar_t> tabs = TabsOf(rows);
     dialog_->SetTabs(tabs, TabToSelect(tabs, Memory().Category()));

@@ -33,6 +33,19 @@ TEST(Guard, TurnsEveryFailure) {
     EXPECT_EQ(TakeErrorText().rfind(L"No host was given (", 0), 0u);
 }
 
+TEST(Guard, WhatIsThrownAgainKeepsItsWords) {
+    Guard(IID_IUnknown, [] {
+        try {
+            Throw(E_INVALIDARG, L"Bad");
+        } catch (const ComError& error) {
+            Rethrow(E_FAIL, error.text);
+        }
+    });
+    EXPECT_EQ(TakeErrorText(), L"Bad (" + DescribeError(E_INVALIDARG) + L")");
+    Guard(IID_IUnknown, [] { Rethrow(E_ABORT, L""); });
+    EXPECT_EQ(TakeErrorText(), DescribeError(E_ABORT));
+}
+
 TEST(Guard, ReturnedCodesPassAndFailuresGetAText) {
     SetErrorInfo(0, nullptr);
     EXPECT_EQ(Guard(IID_IUnknown, [] { return S_FALSE; }), S_FALSE);
