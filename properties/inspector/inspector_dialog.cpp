@@ -63,6 +63,12 @@ wchar_t InspectorDialog::CurrentTab() const {
 
 HWND InspectorDialog::List() const noexcept { return Item(QZ_INSPECTOR_LIST); }
 
+int InspectorDialog::FocusedPart() const noexcept {
+    const HWND focus = GetFocus();
+    if (!Handle() || !focus || !IsChild(Handle(), focus)) return 0;
+    return GetParent(focus) == Handle() ? GetDlgCtrlID(focus) : QZ_INSPECTOR_LIST;
+}
+
 HWND InspectorDialog::BeforeEditor() const noexcept { return Item(QZ_INSPECTOR_DESCRIPTION); }
 
 void InspectorDialog::ClearList() { list_.SendToClass(LB_RESETCONTENT); }

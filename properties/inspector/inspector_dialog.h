@@ -61,6 +61,9 @@ class InspectorDialog final : public Dialog, private ChildKeyListener {
     /// Where the editor goes, in client pixels.
     RECT EditorBounds() const noexcept;
     HWND List() const noexcept;
+    /// The id of the part that has the focus, which is the list while an editor has it; 0 when none has.
+    int FocusedPart() const noexcept;
+    void FocusPart(int id) const noexcept { SetFocus(Item(id)); }
     /// The window that the editor follows in the order of the Tab key.
     HWND BeforeEditor() const noexcept;
 

@@ -103,6 +103,7 @@ class PropControl final
     bool IsInputKey(const MSG& message) const override;
     std::optional<LRESULT> OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
     void MakeDialog();
+    void ShowDialog(bool shown);
     HWND DialogWindow() const noexcept { return dialog_ ? dialog_->Handle() : nullptr; }
 
     PaneEvents events_;
@@ -115,6 +116,7 @@ class PropControl final
     std::function<void()> followed_;
     std::shared_ptr<InspectorDialog> dialog_;
     Language dialogLanguage_ = Language::English;
+    int focusedPart_ = 0;  ///< The part that had the focus when the dialog was hidden; 0 for none.
     ValueDlgPointer editor_;
     /// Counts the objects taken, and the editors opened, so that a step under way sees that it is outdated.
     unsigned objectStage_ = 0;

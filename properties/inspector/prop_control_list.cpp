@@ -70,7 +70,8 @@ EditorChoice ChooseEditorOf(const EditedAttribute& edited) {
 void PropControl::ShowObject() {
     if (!DialogWindow()) return;
     const unsigned stage = objectStage_;
-    ShowWindow(DialogWindow(), object_ && Host() ? SW_SHOWNA : SW_HIDE);
+    ShowDialog(object_ && Host());
+    if (stage != objectStage_ || !DialogWindow()) return;  // the container was told of the focus
     Invalidate();
     ListRefill refill(dialog_);
     dialog_->SetDescription({});

@@ -3,6 +3,7 @@
 
 #include "panes/common/pane_font.h"
 #include "properties/model/selection_caption.h"
+#include "res/dialog_ids.h"
 #include "res/strings.h"
 #include "res/text_ids.h"
 #include "ui/keys.h"
@@ -45,14 +46,34 @@ void PropControl::MakeDialog() {
     if (FAILED(Guard(IID_NULL, [this] { ShowObject(); }))) ShowErrorInDebugger();
 }
 
+/// While the dialog is hidden, as there is nothing to inspect or it is made anew, the control's own window
+/// keeps the focus for it.
+void PropControl::ShowDialog(bool shown) {
+    const std::shared_ptr<InspectorDialog> dialog = dialog_;
+    if (shown) {
+        ShowWindow(dialog->Handle(), SW_SHOWNA);
+        const int part = std::exchange(focusedPart_, 0);
+        if (GetFocus() == WindowHandle()) dialog->FocusPart(part ? part : QZ_INSPECTOR_LIST);
+    } else {
+        if (const int part = dialog->FocusedPart()) {
+            focusedPart_ = part;
+            SetFocus(WindowHandle());
+            if (object_ && Host()) return;  // the container was told, and has set another object
+        }
+        ShowWindow(dialog->Handle(), SW_HIDE);
+    }
+}
+
+/// The parts are painted whole: labels and frames keep what they showed before, and show less or more of it.
 void PropControl::OnSized(SIZE client) {
     if (!DialogWindow()) return;
     dialog_->Arrange(client);
     PlaceEditor();
+    RedrawWindow(WindowHandle(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
 
 HWND PropControl::FocusChild() const noexcept {
-    return DialogWindow() && IsWindowVisible(DialogWindow()) ? dialog_->List() : nullptr;
+    return object_ && DialogWindow() && IsWindowVisible(DialogWindow()) ? dialog_->List() : nullptr;
 }
 
 HWND PropControl::TabTarget(bool backwards) const {

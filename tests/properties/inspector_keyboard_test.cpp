@@ -76,6 +76,29 @@ TEST_F(InspectorKeys, SpeaksTheHostsLanguage) {
     EXPECT_EQ(ValueCaption(), L"値");
 }
 
+TEST_F(InspectorKeys, AChangeOfLanguageGivesTheFocusBack) {
+    const auto field = Create(typeField, L"F");
+    Open();
+    long language = LANG_GERMAN;
+    for (const int part : {QZ_INSPECTOR_LIST, QZ_INSPECTOR_TABS}) {
+        Inspect(field);
+        ActivateUI();
+        SetFocus(Part(part));
+        host->put_LanguageId(MAKELANGID(language, SUBLANG_DEFAULT));
+        language = LANG_FRENCH;
+        ASSERT_EQ(pane->put_VandraX(host.Get()), S_OK);
+        EXPECT_EQ(GetFocus(), window->Window()) << "with nothing to show there is nothing else to take it";
+        Inspect(field);
+        EXPECT_EQ(GetFocus(), Part(part));
+    }
+    EXPECT_EQ(ValueCaption(), L"Valeur");
+    // A focus that has gone elsewhere meanwhile stays there.
+    ASSERT_EQ(pane->put_VandraX(host.Get()), S_OK);
+    SetFocus(window->Frame());
+    Inspect(field);
+    EXPECT_EQ(GetFocus(), window->Frame());
+}
+
 TEST_F(InspectorKeys, OddAttributesAreListedAsFarAsTheyCanBe) {
     const auto object = Create(typeFormAction, L"A");
     const std::wstring longName(200, L'n');

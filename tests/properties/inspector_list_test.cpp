@@ -1,5 +1,6 @@
 // Tabs, list and description of the inspected object, and what is remembered from one to the next.
 #include "tests/properties/inspector_fixture.h"
+#include "tests/support/window_picture.h"
 
 #include <algorithm>
 
@@ -47,6 +48,28 @@ TEST_F(InspectorTest, TruthIsWrittenAndTakenBackByEscape) {
     Press(Field(QZ_EDITOR_CHECK), VK_ESCAPE);
     EXPECT_FALSE(static_cast<bool>(Value(L"Objects[F]", L"Locked")));
     EXPECT_EQ(SendMessageW(Field(QZ_EDITOR_CHECK), BM_GETCHECK, 0, 0), BST_UNCHECKED);
+}
+
+// After any change of size it looks as if everything had been painted anew.
+TEST_F(InspectorTest, ChangesOfSizeLeaveNoOldPixels) {
+    Open();
+    ComPtr<IOleInPlaceObject> place;
+    ASSERT_EQ(pane.As(&place), S_OK);
+    const auto checkSizes = [&](const char* what) {
+        for (const SIZE size : {SIZE{500, 560}, SIZE{320, 480}}) {
+            const RECT bounds{0, 0, size.cx, size.cy};
+            SetWindowPos(window->Frame(), nullptr, 0, 0, size.cx, size.cy, SWP_NOZORDER | SWP_NOMOVE);
+            EXPECT_EQ(place->SetObjectRects(&bounds, &bounds), S_OK);
+            EXPECT_EQ(OldPixels(window->Frame()), 0) << what << ", " << size.cx;
+        }
+    };
+    checkSizes("nothing inspected");
+    Inspect(Create(typeField, L"F"));
+    for (const char* name :
+         {"Locked", "BorderStyle", "BorderColor", "Text", "Font", "Format", "NextActions"}) {
+        ASSERT_TRUE(Choose(std::wstring(name, name + strlen(name)).c_str()));
+        checkSizes(name);
+    }
 }
 
 }  // namespace

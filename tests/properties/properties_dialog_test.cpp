@@ -2,6 +2,7 @@
 #include "com/registry_key.h"
 #include "tests/properties/inspector_fixture.h"
 #include "tests/support/during_modal.h"
+#include "tests/support/window_picture.h"
 
 namespace qz {
 namespace {
@@ -133,6 +134,10 @@ TEST_F(PropertiesDialogTest, PlaceIsKeptWithinLimits) {
     GetWindowRect(FindWindowExW(Window(), nullptr, L"qzVandraExt.Window", nullptr), &inspector);
     GetClientRect(Window(), &client);
     EXPECT_EQ(inspector.right - inspector.left, client.right);
+    EXPECT_EQ(OldPixels(Window()), 0);
+    SetWindowPos(Window(), nullptr, 40, 50, 590, 500, SWP_NOZORDER);
+    EXPECT_EQ(OldPixels(Window()), 0) << "made wider";
+    SetWindowPos(Window(), nullptr, 40, 50, 450, 500, SWP_NOZORDER);
     Press(IDOK);
     EXPECT_EQ(Saved(L"left"), 100) << "saved when the object goes, not before";
     dialog.Reset();
