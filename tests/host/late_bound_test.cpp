@@ -20,6 +20,7 @@ HRESULT CodeOf(Body&& body) {
         return S_OK;
     } catch (const ComError& error) {
         EXPECT_FALSE(error.text.empty());
+        EXPECT_EQ(error.text.find(L") ("), std::wstring::npos) << testing::PrintToString(error.text);
         return error.code;
     }
 }

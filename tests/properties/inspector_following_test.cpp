@@ -292,6 +292,7 @@ TEST_F(InspectorFollows, WhatIsNoHostOrObjectIsRefused) {
     EXPECT_EQ(pane->put_Object(nullptr), S_OK);
     const auto attribute = ComPtr<IDispatch>(events.Get());
     EXPECT_NE(pane->put_Object(attribute.Get()), S_OK);
+    EXPECT_NE(TakeErrorText(), L"");
     EXPECT_EQ(InspectedPath(), L"");
     EXPECT_EQ(pane->put_VandraX(attribute.Get()), E_NOINTERFACE);
     EXPECT_EQ(pane->get_VandraX(nullptr), E_POINTER);

@@ -227,6 +227,12 @@ TEST_F(PropertiesDialogTest, BadParentsAndDyingObjects) {
     EXPECT_EQ(dialog->DoModeless(_variant_t(L"no window")), E_INVALIDARG);
     EXPECT_EQ(dialog->DoModal(_variant_t(0x7FFFFFF0L)), E_INVALIDARG);
     EXPECT_EQ(dialog->get_Options(nullptr), E_POINTER);
+    EXPECT_EQ(dialog->put_Object(events.Get()), S_OK) << "is refused when it is to be shown";
+    EXPECT_EQ(dialog->DoModeless(Owner()), E_FAIL);
+    EXPECT_NE(TakeErrorText(), L"");
+    EXPECT_TRUE(FAILED(dialog->DoModal(Owner())));
+    EXPECT_NE(TakeErrorText(), L"");
+    EXPECT_EQ(dialog->put_Object(field.Get()), S_OK);
     ASSERT_EQ(dialog->DoModeless(_variant_t()), S_OK);
     EXPECT_EQ(dialog->DoModal(Owner()), E_FAIL) << "is open already";
     ASSERT_EQ(host->RemoveObject(_bstr_t(L"Objects[F]")), S_OK);
