@@ -129,6 +129,8 @@ class Control : public IOleObject,
     // ------------------------------------------------------
 
     virtual REFCLSID ClassId() const noexcept = 0;
+    /// The control's name for people: its user type and its window's text.
+    virtual std::wstring Title() const = 0;
 
     /// Draws the control. `bounds` starts at 0, 0 and is the client area in pixels, or, without a window, the
     /// control's extent in pixels. The base has set up `dc` so, maybe scaled or for a metafile: shift the
@@ -139,8 +141,6 @@ class Control : public IOleObject,
     // For the derived control: what it may say and do
     // ----------------------------------------------------------
 
-    /// The control's name for people: its user type and its window's text.
-    virtual std::wstring Title() const { return {}; }
     virtual SIZEL InitialExtent() const { return {5080, 5080}; }  ///< HIMETRIC.
     virtual OLE_COLOR InitialBackColor() const { return 0x80000000u | COLOR_WINDOW; }
     virtual std::span<const PersistentProperty> PersistentProperties() const { return {}; }

@@ -1,19 +1,14 @@
 // IOleObject: the control as its container's document sees it.
 #include "ui/control.h"
 
-#include <cwchar>
+#include "com/text.h"
+#include "ui/ole_verbs.h"
 
 namespace qz {
 
 namespace {
 
-LPOLESTR TaskText(const std::wstring& text) {
-    const size_t size = (text.size() + 1) * sizeof(wchar_t);
-    auto* copy = static_cast<LPOLESTR>(CoTaskMemAlloc(size));
-    if (!copy) Throw(E_OUTOFMEMORY);
-    std::wmemcpy(copy, text.c_str(), text.size() + 1);
-    return copy;
-}
+constexpr const wchar_t* applicationName = L"qzVandraExt";
 
 void RequireContentAspect(DWORD aspect) {
     if (aspect != DVASPECT_CONTENT) Throw(DV_E_DVASPECT, L"The control shows its content only");
@@ -76,7 +71,7 @@ STDMETHODIMP Control::GetClipboardData(DWORD, IDataObject** data) {
 STDMETHODIMP Control::EnumVerbs(IEnumOLEVERB** verbs) {
     if (!verbs) return E_POINTER;
     *verbs = nullptr;
-    return Run(IID_IOleObject, [&] { return OleRegEnumVerbs(ClassId(), verbs); });
+    return Run(IID_IOleObject, [&] { *verbs = MakeVerbEnumerator().Detach(); });
 }
 
 STDMETHODIMP Control::Update() { return S_OK; }
@@ -88,12 +83,8 @@ STDMETHODIMP Control::GetUserClassID(CLSID* classId) { return GetClassID(classId
 STDMETHODIMP Control::GetUserType(DWORD form, LPOLESTR* text) {
     if (!text) return E_POINTER;
     *text = nullptr;
-    return Run(IID_IOleObject, [&]() -> HRESULT {
-        const std::wstring title = Title();
-        if (title.empty() || form == USERCLASSTYPE_APPNAME) return OleRegGetUserType(ClassId(), form, text);
-        *text = TaskText(title);
-        return S_OK;
-    });
+    return Run(IID_IOleObject,
+               [&] { *text = MakeTaskText(form == USERCLASSTYPE_APPNAME ? applicationName : Title()); });
 }
 
 STDMETHODIMP Control::SetExtent(DWORD aspect, SIZEL* extent) {
