@@ -6,20 +6,20 @@ namespace qz {
 
 namespace {
 
-/// The order in which many children go in. The platform checks the item to insert behind by walking the
-/// parent's children, so that only inserting the last one first, each at the front, is linear there. Wine
-/// keeps the end of the list instead: there appending is linear, and inserting at the front is not.
-bool AppendsFast() noexcept {
-    static const bool wine = GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;
-    return wine;
-}
-
 void InitTreeClass() {
     const INITCOMMONCONTROLSEX classes{sizeof(INITCOMMONCONTROLSEX), ICC_TREEVIEW_CLASSES};
     if (!InitCommonControlsEx(&classes)) Throw(E_FAIL, L"The system has no tree view");
 }
 
 }  // namespace
+
+/// The platform checks the item to insert behind by walking the parent's children, so that only inserting the
+/// last one first, each at the front, is linear there. Wine keeps the end of the list instead: there
+/// appending is linear, and inserting at the front is not.
+InsertionOrder FastInsertionOrder() noexcept {
+    static const bool wine = GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;
+    return wine ? InsertionOrder::Appending : InsertionOrder::LastFirst;
+}
 
 void TreeView::Create(HWND parent, const wchar_t* name, DWORD style, int id) {
     InitTreeClass();
@@ -31,9 +31,9 @@ void TreeView::Create(HWND parent, const wchar_t* name, DWORD style, int id) {
                                  .bounds = {}});
 }
 
-void TreeView::InsertChildren(HTREEITEM parent, std::span<TreeItem> items) {
+void TreeView::InsertChildren(HTREEITEM parent, std::span<TreeItem> items, InsertionOrder order) {
     const bool empty = !(parent == TVI_ROOT ? Root() : FirstChild(parent));
-    if (AppendsFast() || !empty) {
+    if (order == InsertionOrder::Appending || !empty) {
         for (TreeItem& item : items) Insert(parent, TVI_LAST, item);
     } else {
         for (std::size_t i = items.size(); i > 0; --i) Insert(parent, TVI_FIRST, items[i - 1]);

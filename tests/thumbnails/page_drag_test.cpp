@@ -1,7 +1,10 @@
 // A window that takes dropped pages, called as the system calls it and by a real drag of the mouse.
 #include "panes/thumbnails/page_drag.h"
 #include "panes/thumbnails/page_drop_target.h"
+#include "tests/support/served_class.h"
 #include "transfer_fixture.h"
+
+#include <shlobj.h>
 
 #include <memory>
 #include <thread>
@@ -208,6 +211,89 @@ TEST_F(PageDragTest, ADropKnowsTheDragOfItsOwnDocument) {
     EXPECT_TRUE(result.finishedByDrop);
     EXPECT_FALSE(result.SourceDeletes());
     EXPECT_EQ(CurrentPageDrag(), nullptr);
+}
+
+/// Draws pictures of drags as the system's helper does, which no Wine has: as the source's side it keeps the
+/// bitmap.
+class PictureHelper final : public Object<PictureHelper, IDragSourceHelper, IDropTargetHelper> {
+  public:
+    ~PictureHelper() override { DeleteObject(image.hbmpDragImage); }
+
+    SHDRAGIMAGE image{};
+    HRESULT answer = S_OK;
+    Lines told;
+
+    STDMETHODIMP InitializeFromBitmap(SHDRAGIMAGE* given, IDataObject*) override {
+        if (SUCCEEDED(answer)) image = *given;
+        told.emplace_back(L"picture");
+        return answer;
+    }
+    STDMETHODIMP InitializeFromWindow(HWND, POINT*, IDataObject*) override { return E_NOTIMPL; }
+    STDMETHODIMP DragEnter(HWND window, IDataObject*, POINT* at, DWORD effect) override {
+        return Tell(IsWindow(window) ? L"enter" : L"enter nothing", *at, effect);
+    }
+    STDMETHODIMP DragLeave() override {
+        told.emplace_back(L"leave");
+        return S_OK;
+    }
+    STDMETHODIMP DragOver(POINT* at, DWORD effect) override { return Tell(L"over", *at, effect); }
+    STDMETHODIMP Drop(IDataObject*, POINT* at, DWORD effect) override { return Tell(L"drop", *at, effect); }
+    STDMETHODIMP Show(BOOL show) override {
+        told.emplace_back(show ? L"show" : L"hide");
+        return S_OK;
+    }
+
+  private:
+    HRESULT Tell(const wchar_t* what, POINT at, DWORD effect) {
+        told.push_back(what + (L" " + std::to_wstring(at.x)) + L"," + std::to_wstring(at.y) + L" " +
+                       std::to_wstring(effect));
+        return S_OK;
+    }
+};
+
+TEST_F(PageDragTest, ThePictureFollowsWhereThePagesAre) {
+    const auto helper = MakeObject<PictureHelper>();
+    const ServedClass served(CLSID_DragDropHelper, helper->Identity());
+    listener->registration.ShowImage(false);
+    EXPECT_EQ(Enter(0), DWORD{DROPEFFECT_MOVE});
+    listener->registration.ShowImage(false);
+    listener->registration.ShowImage(true);
+    DWORD effect = DROPEFFECT_COPY | DROPEFFECT_MOVE;
+    EXPECT_EQ(Target()->DragOver(MK_CONTROL, OnScreen(11, 21), &effect), S_OK);
+    EXPECT_EQ(Target()->DragLeave(), S_OK);
+    listener->registration.ShowImage(true);
+    EXPECT_EQ(Enter(0), DWORD{DROPEFFECT_MOVE});
+    effect = DROPEFFECT_MOVE;
+    EXPECT_EQ(Target()->Drop(pages.Get(), 0, OnScreen(12, 22), &effect), S_OK);
+    // The window stands at 40, 40; its picture is touched only while the pages are over it.
+    EXPECT_EQ(helper->told, (Lines{L"enter 50,60 2", L"hide", L"show", L"over 51,61 1", L"leave",
+                                   L"enter 50,60 2", L"drop 52,62 2"}));
+}
+
+TEST_F(PageDragTest, TheSystemKeepsTheBitmapThatItTakes) {
+    for (const HRESULT answer : {S_OK, E_NOTIMPL}) {
+        const auto helper = MakeObject<PictureHelper>();
+        helper->answer = answer;
+        const ServedClass served(CLSID_DragDropHelper, helper->Identity());
+        DragPicture picture{DibSection(20, 30), {10, 15}};
+        std::ranges::fill(picture.pixels.Pixels(), DWORD{0xFF0000FF});
+        {
+            const Hand hand(OnScreen(20, 20), OnScreen(100, 120), MOUSEEVENTF_RIGHTDOWN);
+            ASSERT_TRUE(AwaitPress());
+            DragPages(host.Get(), {2}, DROPEFFECT_COPY, picture);
+        }
+        mouse_event(MOUSEEVENTF_RIGHTUP, 0, 0, 0, 0);
+        ASSERT_FALSE(helper->told.empty());
+        EXPECT_EQ(helper->told.front(), L"picture");
+        if (FAILED(answer)) continue;
+        EXPECT_EQ(helper->image.sizeDragImage.cx, 20);
+        EXPECT_EQ(helper->image.sizeDragImage.cy, 30);
+        EXPECT_EQ(helper->image.ptOffset.x, 10);
+        EXPECT_EQ(helper->image.ptOffset.y, 15);
+        const MemoryDc memory;
+        const SelectScope selected(memory.Get(), helper->image.hbmpDragImage);
+        EXPECT_EQ(GetPixel(memory.Get(), 19, 29), RGB(0, 0, 255)) << "still there";
+    }
 }
 
 TEST_F(PageDragTest, ASecondButtonCancelsTheDrag) {
