@@ -73,4 +73,15 @@ inline SafeArray MakeLongArray(std::span<const long> values) {
     return array;
 }
 
+/// The same as variants: script languages read the elements of no other arrays.
+inline SafeArray MakeVariantArray(std::span<const long> values) {
+    SafeArray array = MakeSafeArray(VT_VARIANT, values.size());
+    const SafeArrayView<VARIANT> view(array.Get());
+    for (size_t i = 0; i < values.size(); ++i) {
+        view.Elements()[i].vt = VT_I4;
+        view.Elements()[i].lVal = values[i];
+    }
+    return array;
+}
+
 }  // namespace qz

@@ -6,21 +6,31 @@ namespace qz {
 
 namespace {
 
-/// Of one dimension, or an exception.
-SAFEARRAY* RequireArray(const VARIANT& value) {
-    if ((value.vt & VT_ARRAY) == 0) Throw(DISP_E_TYPEMISMATCH, L"A value of the host is not an array");
+/// Null when the value is no array of one dimension.
+SAFEARRAY* ArrayIn(const VARIANT& value) noexcept {
+    const VARIANT& plain = LookThrough(value);
+    if (!(plain.vt & VT_ARRAY)) return nullptr;
     SAFEARRAY* const array =
-        (value.vt & VT_BYREF) ? (value.pparray ? *value.pparray : nullptr) : value.parray;
-    if (!array || SafeArrayGetDim(array) != 1) {
-        Throw(DISP_E_TYPEMISMATCH, L"A value of the host is not an array of one dimension");
-    }
-    return array;
+        (plain.vt & VT_BYREF) ? (plain.pparray ? *plain.pparray : nullptr) : plain.parray;
+    return array && SafeArrayGetDim(array) == 1 ? array : nullptr;
 }
 
 }  // namespace
 
+const VARIANT& LookThrough(const VARIANT& value) noexcept {
+    const VARIANT* inner = &value;
+    // A reference to a reference is malformed; the limit keeps a circle from being followed for ever.
+    for (int depth = 0; inner->vt == (VT_BYREF | VT_VARIANT) && inner->pvarVal && depth < 4; ++depth) {
+        inner = inner->pvarVal;
+    }
+    return *inner;
+}
+
+bool IsList(const VARIANT& value) noexcept { return ArrayIn(value) != nullptr; }
+
 std::vector<_variant_t> ElementsOf(const VARIANT& value) {
-    SAFEARRAY* const array = RequireArray(value);
+    SAFEARRAY* const array = ArrayIn(value);
+    if (!array) Throw(DISP_E_TYPEMISMATCH, L"A value of the host is not an array of one dimension");
     VARTYPE type = VT_EMPTY;
     ThrowIfFailed(SafeArrayGetVartype(array, &type));
     if (type == VT_RECORD) Throw(DISP_E_TYPEMISMATCH, L"A value of the host is an array of records");

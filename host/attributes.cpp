@@ -32,11 +32,11 @@ void WriteAttribute(IVandraX* host, std::wstring_view path, std::wstring_view at
     }
 }
 
-long ToLong(const VARIANT& value) {
+long ToLong(const VARIANT& value, const wchar_t* failure) {
     if (value.vt == VT_I4) return value.lVal;
     _variant_t number;
-    ThrowIfFailed(VariantChangeType(&number, const_cast<VARIANT*>(&value), 0, VT_I4),  // only reads it
-                  L"A value of the host is not a number");
+    ThrowIfFailed(VariantChangeType(&number, const_cast<VARIANT*>(&value), 0, VT_I4),
+                  failure);  // only reads it
     return number.lVal;
 }
 

@@ -24,8 +24,8 @@ void WriteAttribute(IVandraX* host, std::wstring_view path, std::wstring_view at
                     const _variant_t& value);
 
 /// A value of any numeric type, or a text that spells a number, as a 32-bit integer; DISP_E_TYPEMISMATCH or
-/// DISP_E_OVERFLOW is thrown for anything else.
-long ToLong(const VARIANT& value);
+/// DISP_E_OVERFLOW is thrown for anything else, with `failure` as its text.
+long ToLong(const VARIANT& value, const wchar_t* failure = L"A value of the host is not a number");
 
 /// A value as a text, written as any user would read it; empty for no value. DISP_E_TYPEMISMATCH is thrown
 /// for what is no text.

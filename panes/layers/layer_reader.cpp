@@ -1,7 +1,9 @@
 #include "panes/layers/layer_reader.h"
 
 #include "com/safe_array.h"
+#include "host/array_elements.h"
 #include "host/attributes.h"
+#include "host/host_objects.h"
 #include "host/late_bound.h"
 #include "host/object_path.h"
 
@@ -27,13 +29,13 @@ bool IsOn(std::wstring_view state) noexcept {
 
 using Configurations = std::vector<ComPtr<IDispatch>>;
 
-/// None when the host has something else than an array of objects.
+/// None when the host has something else than an array. An element that is no object is null.
 Configurations ReadConfigurations(IVandraX* host) {
     const _variant_t value = ReadAttribute(host, documentPath, L"LayerConfigs");
-    if (value.vt != (VT_ARRAY | VT_DISPATCH) || !value.parray || SafeArrayGetDim(value.parray) != 1)
-        return {};
-    const SafeArrayView<IDispatch*> view(value.parray);
-    return {view.Elements().begin(), view.Elements().end()};
+    if (!IsList(value)) return {};
+    Configurations configurations;
+    for (const _variant_t& element : ElementsOf(value)) configurations.push_back(ObjectOf(element));
+    return configurations;
 }
 
 /// The texts of a configuration, read as they are needed.
@@ -153,12 +155,18 @@ void LayerAttributes::WriteVisible(const Bstr& path, bool visible) {
 bool LayerAttributes::IsOnPage(const Bstr& path, long page) {
     value_.Clear();
     const HRESULT result = host_->GetObjectAttribute(path.Get(), pages_.Get(), &value_);
-    if (FAILED(result) || value_.vt != (VT_ARRAY | VT_I4) || !value_.parray ||
-        SafeArrayGetDim(value_.parray) != 1) {
-        return true;
+    if (FAILED(result) || !IsList(value_)) return true;
+    if (value_.vt == (VT_ARRAY | VT_I4)) {  // asked of every layer: without copies
+        const SafeArrayView<long> view(value_.parray);
+        return std::ranges::find(view.Elements(), page) != view.Elements().end();
     }
-    const SafeArrayView<long> view(value_.parray);
-    return std::ranges::find(view.Elements(), page) != view.Elements().end();
+    bool found = true;  // an array of anything else tells nothing
+    Guard(IID_NULL, [&] {
+        found = std::ranges::any_of(ElementsOf(value_), [page](const _variant_t& element) {
+            return ToLong(LookThrough(element)) == page;
+        });
+    });
+    return found;
 }
 
 }  // namespace qz

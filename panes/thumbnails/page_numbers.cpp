@@ -1,6 +1,7 @@
 #include "panes/thumbnails/page_numbers.h"
 
 #include "com/safe_array.h"
+#include "host/array_elements.h"
 #include "host/attributes.h"
 
 #include <utility>
@@ -8,15 +9,6 @@
 namespace qz {
 
 namespace {
-
-const VARIANT& LookThrough(const VARIANT& value) {
-    const VARIANT* inner = &value;
-    // A reference to a reference is malformed; the limit keeps a circle from being followed for ever.
-    for (int depth = 0; inner->vt == (VT_BYREF | VT_VARIANT) && inner->pvarVal && depth < 4; ++depth) {
-        inner = inner->pvarVal;
-    }
-    return *inner;
-}
 
 SAFEARRAY* ArrayIn(const VARIANT& value) {
     if (!(value.vt & VT_ARRAY)) Throw(DISP_E_TYPEMISMATCH, L"Page numbers come as an array of integers");
@@ -44,7 +36,9 @@ std::vector<long> VariantNumbers(SAFEARRAY* array) {
     const SafeArrayView<VARIANT> view(array);
     std::vector<long> numbers;
     numbers.reserve(view.Elements().size());
-    for (const VARIANT& element : view.Elements()) numbers.push_back(ToLong(LookThrough(element)));
+    for (const VARIANT& element : view.Elements()) {
+        numbers.push_back(ToLong(LookThrough(element), L"An element of the array is no page number"));
+    }
     return numbers;
 }
 
@@ -76,7 +70,7 @@ std::vector<long> PageNumbersOf(const VARIANT& value) {
         case VT_VARIANT:
             return VariantNumbers(array);
         default:
-            Throw(DISP_E_TYPEMISMATCH, L"The elements of the array are no integers");
+            Throw(DISP_E_TYPEMISMATCH, L"The elements of the array are no page numbers");
     }
 }
 
@@ -84,6 +78,13 @@ _variant_t MakePageNumbers(std::span<const long> pages) {
     _variant_t value;
     value.parray = MakeLongArray(pages).Detach();
     value.vt = VT_ARRAY | VT_I4;
+    return value;
+}
+
+_variant_t MakePageVariants(std::span<const long> pages) {
+    _variant_t value;
+    value.parray = MakeVariantArray(pages).Detach();
+    value.vt = VT_ARRAY | VT_VARIANT;
     return value;
 }
 

@@ -17,5 +17,7 @@ std::vector<long> PageNumbersOf(const VARIANT& value);
 
 /// A one-dimensional array of VT_I4.
 _variant_t MakePageNumbers(std::span<const long> pages);
+/// The same of VT_VARIANT, for script languages.
+_variant_t MakePageVariants(std::span<const long> pages);
 
 }  // namespace qz

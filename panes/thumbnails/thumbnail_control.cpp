@@ -86,6 +86,14 @@ STDMETHODIMP ThumbnailControl::get_SelectedPages(VARIANT* pVal) {
     });
 }
 
+STDMETHODIMP ThumbnailControl::get_SelectedPagesVariant(VARIANT* pVal) {
+    return Guard(__uuidof(IqzThumbnailCtrl), [&] {
+        RequirePointer(pVal);
+        VariantInit(pVal);
+        *pVal = MakePageVariants(model_.Selection().Pages()).Detach();
+    });
+}
+
 STDMETHODIMP ThumbnailControl::put_SelectedPages(VARIANT newVal) {
     const ComPtr<IUnknown> alive = Identity();
     return Guard(__uuidof(IqzThumbnailCtrl), [&] {

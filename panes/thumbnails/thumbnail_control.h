@@ -54,6 +54,7 @@ class ThumbnailControl final
     STDMETHODIMP get_Settings(qzThumbnailCtrlSettings* pVal) override;
     STDMETHODIMP put_Settings(qzThumbnailCtrlSettings newVal) override;
     STDMETHODIMP SettingsChange(long enabled, qzThumbnailCtrlSettings settingsToChange) override;
+    STDMETHODIMP get_SelectedPagesVariant(VARIANT* pVal) override;
 
   private:
     // thumbnail_control.cpp: members, host and records

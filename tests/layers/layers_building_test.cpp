@@ -101,9 +101,12 @@ TEST_F(LayersBuilding, TextsOfOtherTypesEndTheBuild) {
     Configure(L"AbC", L"");
     const auto odd = MakeObject<OddConfiguration>();
     odd->values = {{L"ConfigOrder", L"(A)(b)(C)"}, {L"ConfigRBGroups", L"[(A)(C)]"}, {L"ConfigON", L"(b)"}};
-    VARIANT configurations{};
-    configurations.vt = VT_ARRAY | VT_DISPATCH;
-    configurations.parray = MakeObjectArray({{ComPtr<IDispatch>(odd.Get())}}).Detach();
+    VARIANT configurations{};  // as scripts make arrays
+    configurations.vt = VT_ARRAY | VT_VARIANT;
+    configurations.parray = MakeSafeArray(VT_VARIANT, 1).Detach();
+    LONG first = 0;
+    _variant_t only(odd.Get());
+    ThrowIfFailed(SafeArrayPutElement(configurations.parray, &first, &only));
     Override(L"Document", L"LayerConfigs", _variant_t(configurations, false));
     window.emplace(pane.Get(), SIZE{200, 200});
     odd->values[L"ConfigOFF"] = 1L;
@@ -175,15 +178,15 @@ TEST_F(LayersBuilding, FollowsTheHost) {
 
 TEST_F(LayersBuilding, ListsLayersOfPages) {
     Configure(L"ABCD", L"(A)[(B)](Heading)[(C)](D)");
-    const auto pages = [&](const wchar_t* layer, std::vector<long> numbers) {
+    const auto pages = [&](const wchar_t* layer, std::vector<long> numbers, VARTYPE type = VT_I4) {
         VARIANT value{};
-        value.vt = VT_ARRAY | VT_I4;
-        value.parray = MakeLongArray(numbers).Detach();
+        value.vt = static_cast<VARTYPE>(VT_ARRAY | type);
+        value.parray = (type == VT_I4 ? MakeLongArray(numbers) : MakeVariantArray(numbers)).Detach();
         Override(layer, L"Pages", _variant_t(value, false));
     };
     pages(L"Layers[A]", {});
     pages(L"Layers[B]", {2});
-    pages(L"Layers[C]", {1, 3});
+    pages(L"Layers[C]", {1, 3}, VT_VARIANT);
     Open();
     const std::wstring all = L"+A[+B] *Heading[+C] +D";
     qzLayersCtrlListLayers list{};

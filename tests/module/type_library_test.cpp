@@ -129,6 +129,7 @@ TEST_F(TypeLibraryTest, ThumbnailPane) {
 9 get Settings(result qzThumbnailCtrlSettings*)
 9 put Settings(qzThumbnailCtrlSettings)
 10 call SettingsChange(long, qzThumbnailCtrlSettings)
+100 get SelectedPagesVariant(result VARIANT*)
 )");
     ExpectInterface(DIID__IqzThumbnailCtrlEvents,
                     LR"(

@@ -194,6 +194,9 @@ TEST_F(Selecting, BadPageNumbersAreRefused) {
     expectRefused(ArrayOf(VT_BSTR, {_variant_t(L"1")}), DISP_E_TYPEMISMATCH);
     expectRefused(ArrayOf(VT_R8, {_variant_t(1.0)}), DISP_E_TYPEMISMATCH);
     expectRefused(ArrayOf(VT_VARIANT, {_variant_t(1L), _variant_t(L"two")}), DISP_E_TYPEMISMATCH);
+    EXPECT_EQ(pane->put_SelectedPages(ArrayOf(VT_VARIANT, {_variant_t(L"x")})), DISP_E_TYPEMISMATCH);
+    EXPECT_EQ(TakeErrorText().find(L"An element of the array is no page number"), 0u)
+        << "not the host's fault";
     VARIANT circle{};
     circle.vt = VT_BYREF | VT_VARIANT;
     circle.pvarVal = &circle;
@@ -207,6 +210,7 @@ TEST_F(Selecting, BadPageNumbersAreRefused) {
     matrix.vt = VT_ARRAY | VT_I4;
     expectRefused(matrix, E_INVALIDARG);
     EXPECT_EQ(pane->get_SelectedPages(nullptr), E_POINTER);
+    EXPECT_EQ(pane->get_SelectedPagesVariant(nullptr), E_POINTER);
 }
 
 // What listeners may do inside an event

@@ -27,7 +27,23 @@ pane.BackColor = RGB(1, 2, 3)
 Check pane.BackColor = RGB(1, 2, 3), "the colour"
 pane.ScrollPageThumbIntoView 12
 
+Dim pages, page, told
+pages = Array(2, "5", 7.0)
+pane.SelectedPages = pages
+pane.SelectedPages = Array(11)
+For Each page In pane.SelectedPagesVariant
+    told = told & page & " "
+Next
+Check told = "2 5 7 11 ", "the selected pages one by one: " & told
+pages = pane.SelectedPagesVariant
+Check UBound(pages) = 3 And pages(1) = 5, "and as an array"
+pane.SelectedPages = pages
+
 On Error Resume Next
+pane.SelectedPages = Array("x")
+Check Err.Number <> 0, "a text is no page"
+Check InStr(Err.Description, "An element of the array is no page number") = 1, "the error says so: " & Err.Description
+Err.Clear
 pane.ScrollPageThumbIntoView 13
 Check Err.Number <> 0, "there is no such page"
 Check InStr(Err.Description, "no page 13") > 0, "the error says why: " & Err.Description
