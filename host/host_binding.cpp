@@ -1,5 +1,6 @@
 #include "host/host_binding.h"
 
+#include "host/host_language.h"
 #include "host/host_sink.h"
 
 #include <ocidl.h>
@@ -49,7 +50,9 @@ void HostBinding::Attach(IDispatch* candidate) {
         if (!replaced) Detach();
         Throw(result, L"The host does not tell its language");
     }
-    if (!replaced) languageId_ = static_cast<std::uint16_t>(language);
+    if (replaced) return;
+    languageId_ = static_cast<std::uint16_t>(language);
+    NoteHostLanguage(languageId_);
 }
 
 void HostBinding::Detach() noexcept {

@@ -1,6 +1,7 @@
 #include "dialogs/dispatcher/plugin_ui_dialogs.h"
 
 #include "com/text.h"
+#include "host/host_language.h"
 #include "ui/parent_window.h"
 
 #include <comdef.h>
@@ -24,6 +25,16 @@ class ModeScope {
 
 }  // namespace
 
+STDMETHODIMP PluginUIDialogs::Invoke(DISPID id, REFIID iid, LCID locale, WORD flags, DISPPARAMS* parameters,
+                                     VARIANT* result, EXCEPINFO* exception, UINT* badArgument) {
+    const ComPtr<IUnknown> alive = Identity();
+    lateBound_ = true;
+    const HRESULT answer =
+        Dispatch::Invoke(id, iid, locale, flags, parameters, result, exception, badArgument);
+    lateBound_ = false;
+    return answer;
+}
+
 STDMETHODIMP PluginUIDialogs::put_BookmarkCtrl(IDispatch* newVal) {
     bookmarks_ = newVal;
     return S_OK;
@@ -36,7 +47,15 @@ STDMETHODIMP PluginUIDialogs::put_ThumbnailsCtrl(IDispatch* newVal) {
 
 STDMETHODIMP PluginUIDialogs::put_PDF(IDispatch* newVal) {
     host_ = newVal;
+    NoteAttachedHost(newVal);
     return S_OK;
+}
+
+STDMETHODIMP PluginUIDialogs::get_LastResult(long* pVal) {
+    return Guard(__uuidof(IqzPluginUIDialogs), [&] {
+        RequirePointer(pVal);
+        *pVal = lastResult_;
+    });
 }
 
 STDMETHODIMP PluginUIDialogs::put_ParentWindowHandle(long newVal) {
@@ -82,19 +101,30 @@ STDMETHODIMP PluginUIDialogs::EndWindow(qzPluginUIDialogsCommands dialogID, long
 
 HRESULT PluginUIDialogs::Run(CallMode mode, long command, const VARIANT* dataIn, VARIANT* dataOut) {
     const ComPtr<IUnknown> alive = Identity();
-    return Guard(__uuidof(IqzPluginUIDialogs), [&]() -> HRESULT {
+    lastResult_ = Guard(__uuidof(IqzPluginUIDialogs), [&]() -> HRESULT {
         const ModeScope scope(mode_, mode);
+        ToolCall call = MakeCall(mode, dataIn, dataOut);
         const ToolCommand& tool = RequireCommand(command);
-        ToolCall call;
         call.host = host_;  // kept, for the host may take itself out while it is asked
         options_.LoadOnce(call.host.Get());
         call.parent = ParentWindow(_variant_t(parent_));
-        call.mode = mode_;
-        call.dataIn = dataIn;
-        call.dataOut = dataOut;
-        call.dataOutHolds = mode != CallMode::Modal;  // in and out there, out alone in DoDialogEx
         return tool.run(call);
     });
+    return lastResult_;
+}
+
+/// A late-bound caller's data out of ShowWindow and EndWindow is a variable of a script, which may hold a
+/// value, or stands for an argument left out. That of DoDialogEx is the result, for which nobody vouches.
+ToolCall PluginUIDialogs::MakeCall(CallMode mode, const VARIANT* dataIn, VARIANT* dataOut) {
+    ToolCall call;
+    call.mode = mode;
+    call.dataIn = dataIn;
+    call.dataOut = dataOut;
+    call.dataOutHolds = std::exchange(lateBound_, false) && mode != CallMode::Modal;
+    const bool leftOut =
+        call.dataOutHolds && dataOut && dataOut->vt == VT_ERROR && dataOut->scode == DISP_E_PARAMNOTFOUND;
+    if (leftOut) call.dataOut = nullptr;
+    return call;
 }
 
 }  // namespace qz

@@ -18,6 +18,10 @@ class PluginUIDialogs final : public Object<PluginUIDialogs, Dispatch<IqzPluginU
   public:
     void FinalRelease() noexcept { options_.Save(); }
 
+    /// Marks the call as one of a late-bound caller.
+    STDMETHODIMP Invoke(DISPID id, REFIID iid, LCID locale, WORD flags, DISPPARAMS* parameters,
+                        VARIANT* result, EXCEPINFO* exception, UINT* badArgument) override;
+
     STDMETHODIMP put_BookmarkCtrl(IDispatch* newVal) override;
     STDMETHODIMP put_ThumbnailsCtrl(IDispatch* newVal) override;
     STDMETHODIMP put_LayersCtrl(IDispatch*) override { return S_OK; }
@@ -31,14 +35,18 @@ class PluginUIDialogs final : public Object<PluginUIDialogs, Dispatch<IqzPluginU
                             VARIANT* dataOut) override;
     STDMETHODIMP EndWindow(qzPluginUIDialogsCommands dialogID, long* hWnd, VARIANT* dataOut) override;
     STDMETHODIMP put_PDF(IDispatch* newVal) override;
+    STDMETHODIMP get_LastResult(long* pVal) override;
 
   private:
     HRESULT Run(CallMode mode, long command, const VARIANT* dataIn, VARIANT* dataOut);
+    ToolCall MakeCall(CallMode mode, const VARIANT* dataIn, VARIANT* dataOut);
 
     ComPtr<IDispatch> host_, bookmarks_, thumbnails_;
     long parent_ = 0;
     std::optional<std::wstring> password_;
     CallMode mode_ = CallMode::Idle;
+    bool lateBound_ = false;  ///< A late-bound call is about to reach its member.
+    HRESULT lastResult_ = S_OK;
     DialogOptions options_;
 };
 

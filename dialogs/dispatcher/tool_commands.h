@@ -17,7 +17,8 @@ struct ToolCall {
     CallMode mode = CallMode::Modal;
     const VARIANT* dataIn = nullptr;  ///< Null when there is none.
     VARIANT* dataOut = nullptr;       ///< Null when nothing is wanted. Untouched unless something goes there.
-    bool dataOutHolds = false;        ///< It holds a value of the client's, to be cleared before.
+    bool dataOutHolds =
+        false;  ///< It is a variable whose value is to be cleared before; else it may be garbage.
 };
 
 struct ToolCommand {

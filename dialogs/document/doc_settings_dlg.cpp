@@ -45,6 +45,7 @@ STDMETHODIMP DocSettingsDlg::Initialize(IDispatch* VandraX) {
         ComPtr<IVandraX> host;
         ThrowIfFailed(VandraX->QueryInterface(IID_PPV_ARGS(&host)), L"The object is no host");
         host_ = host;
+        NoteAttachedHost(host.Get());
     });
 }
 

@@ -41,6 +41,7 @@ STDMETHODIMP PropertiesDlg::put_VandraX(IDispatch* newVal) {
     const ComPtr<IUnknown> alive = Identity();
     return Guard(__uuidof(IqzPropertiesDlg), [&] {
         state_.host = newVal;
+        NoteAttachedHost(newVal);
         if (Open()) window_->TakeHost();
     });
 }

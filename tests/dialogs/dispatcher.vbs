@@ -19,6 +19,7 @@ Set dialogs.ThumbnailsCtrl = Nothing
 Set dialogs.LayersCtrl = pane
 Set dialogs.StatusCtrl = Nothing
 dialogs.ParentWindowHandle = 0
+Check dialogs.LastResult = 0, "no dialog was run yet"
 Check dialogs.Password = "", "no password yet"
 dialogs.Password = "secret"
 Check dialogs.Password = "secret", "the password stays"
@@ -29,6 +30,7 @@ For Each number In Array(0, 13, 1, 12)
     dialogs.DoDialog number
     Check Err.Number <> 0, number & " has no dialog"
     Check InStr(Err.Description, number) > 0, "the error names " & number
+    Check dialogs.LastResult = &H80004001, "and is the last result"
     Err.Clear
     dialogs.DoDialogEx number
     Check Err.Number <> 0, number & " has no dialog with data either"

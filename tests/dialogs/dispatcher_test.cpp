@@ -1,6 +1,10 @@
 // The dispatcher of the tool dialogs.
+#include "settings/nup_settings.h"
 #include "tests/dialogs/record_dialogs.h"
 #include "tests/support/error_text.h"
+#include "tests/support/script.h"
+
+#include <cstring>
 
 namespace qz {
 namespace {
@@ -14,6 +18,11 @@ class DispatcherTest : public RecordDialogTest {
     ~DispatcherTest() override { DeleteTree(HKEY_CURRENT_USER, optionsKey); }
 
     static void Cancel() { Press(IDCANCEL); }
+    HRESULT LastResult() const {
+        long result = -1;
+        EXPECT_EQ(dialogs->get_LastResult(&result), S_OK);
+        return result;
+    }
     static std::optional<RegistryValue> Options() {
         const auto key = RegistryKey::Open(HKEY_CURRENT_USER, optionsKey);
         return key ? key->Value(optionsValue) : std::nullopt;
@@ -143,6 +152,84 @@ TEST_F(DispatcherTest, DocumentSettingsNeedAHost) {
     EXPECT_TRUE(shown);
     EXPECT_EQ(static_cast<long>(out), 5);
     EXPECT_EQ(handle, 7);
+}
+
+// A data out is an out-parameter: a caller's memory may hold anything.
+TEST_F(DispatcherTest, DataOutIsNeverReadAndWrittenOnSuccessOnly) {
+    using Caller = std::function<HRESULT(VARIANT*)>;
+    long window = 7;
+    const Caller callers[] = {
+        [&](VARIANT* out) { return dialogs->DoDialogEx(qzNUpSettings, nullptr, out); },
+        [&](VARIANT* out) { return dialogs->ShowWindow(qzNUpSettings, &window, nullptr, out); },
+        [&](VARIANT* out) { return dialogs->EndWindow(qzNUpSettings, &window, out); }};
+    for (const Caller& call : callers) {
+        for (const unsigned char garbage : {0xCC, 0x08, 0x09, 0x0D}) {  // 0x0808: a text, by no pointer
+            VARIANT out, before;
+            std::memset(&out, garbage, sizeof out);
+            out.vt = garbage == 0xCC ? VARTYPE{0xCCCC} : VARTYPE{garbage};
+            std::memcpy(&before, &out, sizeof out);
+            {
+                const DuringModal during(Cancel);
+                EXPECT_EQ(call(&out), S_FALSE);
+            }
+            EXPECT_EQ(std::memcmp(&before, &out, sizeof out), 0);
+            EXPECT_EQ(LastResult(), S_FALSE);
+            {
+                const DuringModal during([] { Press(IDOK); });
+                EXPECT_EQ(call(&out), S_OK);
+            }
+            zrNUpSettings record;
+            Load(out, record);
+            VariantClear(&out);
+            EXPECT_EQ(LastResult(), S_OK);
+        }
+    }
+    EXPECT_EQ(dialogs->DoDialog(qzAddWatermarks), E_NOTIMPL);
+    EXPECT_EQ(LastResult(), E_NOTIMPL);
+    EXPECT_EQ(dialogs->get_LastResult(nullptr), E_POINTER);
+}
+
+constexpr wchar_t dialogScript[] =
+    LR"(
+Dim result, state, kept
+Sub Ask(dialogs)
+    Dim out
+    Set out = dialogs
+    dialogs.ShowWindow 11, 0, , out
+    result = dialogs.LastResult
+    kept = 0
+    If out Is dialogs Then kept = 1
+    state = VarType(out)
+End Sub
+Sub AskOnly(dialogs)
+    dialogs.ShowWindow 11, 0
+    result = dialogs.LastResult
+End Sub
+Sub AskEx(dialogs)
+    Dim out
+    out = dialogs.DoDialogEx(11, 1)
+    state = VarType(out)
+    result = dialogs.LastResult
+End Sub
+)";
+
+TEST_F(DispatcherTest, ScriptsLearnOfACancelAndKeepWhatTheyHold) {
+    const Script script(dialogScript);
+    const ULONG references = ReferencesOf(dialogs.Get());
+    const auto ask = [&](const wchar_t* procedure, int button) {
+        const DuringModal during([button] { Press(button); });
+        EXPECT_EQ(script.Call(procedure, dialogs.Get()), S_OK) << script.Error();
+        EXPECT_EQ(script.Read(L"result"), button == IDOK ? S_OK : S_FALSE);
+    };
+    ask(L"Ask", IDCANCEL);
+    EXPECT_EQ(script.Read(L"kept"), 1);
+    ask(L"Ask", IDOK);
+    EXPECT_EQ(script.Read(L"kept"), 0);
+    EXPECT_EQ(script.Read(L"state"), VT_UNKNOWN);
+    ask(L"AskOnly", IDOK);
+    ask(L"AskEx", IDCANCEL);
+    EXPECT_EQ(script.Read(L"state"), VT_EMPTY);
+    EXPECT_EQ(ReferencesOf(dialogs.Get()), references) << "what the variable held was let go";
 }
 
 TEST_F(DispatcherTest, DialogsOfRecordsOpenThoughTheHostFails) {

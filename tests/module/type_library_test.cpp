@@ -241,9 +241,10 @@ TEST_F(TypeLibraryTest, ToolDialogs) {
 7 put Password(BSTR)
 7 get Password(result BSTR*)
 8 call DoDialogEx(qzPluginUIDialogsCommands, optional VARIANT*, result VARIANT*)
-9 call ShowWindow(qzPluginUIDialogsCommands, in out long*, optional VARIANT*, in out optional VARIANT*)
-10 call EndWindow(qzPluginUIDialogsCommands, in out long*, in out optional VARIANT*)
+9 call ShowWindow(qzPluginUIDialogsCommands, in out long*, optional VARIANT*, out optional VARIANT*)
+10 call EndWindow(qzPluginUIDialogsCommands, in out long*, out optional VARIANT*)
 11 put PDF(IDispatch*)
+100 get LastResult(result long*)
 )");
     ExpectInterface(IID_IqzApplicationPreferences, L"\n");
     ExpectEnumeration(L"qzPluginUIDialogsCommands",
