@@ -1,6 +1,7 @@
 #include "dialogs/grid/grid_units_dlg.h"
 
 #include "dialogs/grid/grid_steps.h"
+#include "host/host_language.h"
 #include "res/dialog_ids.h"
 #include "res/strings.h"
 #include "res/text_ids.h"
@@ -72,7 +73,8 @@ STDMETHODIMP GridUnitsDlg::DoModal() {
     const ComPtr<IUnknown> alive = Identity();
     return Guard(__uuidof(IqzGridUnitsDlg), [&] {
         RegisterTextEdits();
-        GridDialog dialog(steps_, LanguageFromId(GetUserDefaultUILanguage()));
+        const Language language = LastHostLanguage().value_or(LanguageFromId(GetUserDefaultUILanguage()));
+        GridDialog dialog(steps_, language);
         dialog.RunModal(GetActiveWindow());
     });
 }

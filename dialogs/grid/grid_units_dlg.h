@@ -7,8 +7,9 @@
 
 namespace qz {
 
-/// See the type library for the members. The dialog opens over the thread's active window, in the language of
-/// the user's system, as there is no host to ask. Apartment-threaded.
+/// See the type library for the members. The dialog opens over the thread's active window. As it has no host
+/// of its own, it speaks the language of the host to which any component was attached last, and that of the
+/// user's system before. Apartment-threaded.
 class GridUnitsDlg final : public Object<GridUnitsDlg, Dispatch<IqzGridUnitsDlg>> {
   public:
     /// S_OK however the dialog was closed; Cancel leaves the step as it was.

@@ -3,6 +3,7 @@
 #include "res/dialog_ids.h"
 #include "tests/module/loaded_module.h"
 #include "tests/support/during_modal.h"
+#include "tests/support/host_under_test.h"
 
 #include "generated/qzVandraExt.h"
 
@@ -18,14 +19,19 @@ namespace {
 
 class GridDialogTest : public ::testing::Test {
   protected:
-    GridDialogTest() {
-        ComPtr<IClassFactory> factory;
-        ThrowIfFailed(module.GetClassObject(CLSID_qzGridUnitsDlg, IID_PPV_ARGS(&factory)));
-        ThrowIfFailed(factory->CreateInstance(nullptr, IID_PPV_ARGS(&grid)));
-    }
+    GridDialogTest() { grid = Make<IqzGridUnitsDlg>(CLSID_qzGridUnitsDlg); }
     ~GridDialogTest() override {
         grid.Reset();
         EXPECT_EQ(module.CanUnloadNow(), S_OK);
+    }
+
+    template <class I>
+    ComPtr<I> Make(REFCLSID id) const {
+        ComPtr<IClassFactory> factory;
+        ComPtr<I> made;
+        ThrowIfFailed(module.GetClassObject(id, IID_PPV_ARGS(&factory)));
+        ThrowIfFailed(factory->CreateInstance(nullptr, IID_PPV_ARGS(&made)));
+        return made;
     }
 
     static HWND Window() {
@@ -69,6 +75,40 @@ TEST_F(GridDialogTest, OpensInTwipsWhateverWasChosenBefore) {
     EXPECT_STREQ(unit, L"Twips");
     EXPECT_EQ(low, 0);
     EXPECT_EQ(high, 32767);
+}
+
+TEST_F(GridDialogTest, SpeaksTheLanguageOfTheHostAttachedLast) {
+    const auto hostOf = [](short language) {
+        const ComPtr<IReferenceHost> host = MakeHost(1);
+        ThrowIfFailed(host->put_LanguageId(language));
+        return host;
+    };
+    const auto caption = [&] {
+        wchar_t text[100] = L"";
+        const DuringModal during([&] {
+            GetWindowTextW(Window(), text, 100);
+            Press(IDCANCEL);
+        });
+        EXPECT_EQ(grid->DoModal(), S_OK);
+        return std::wstring(text);
+    };
+    const auto english = hostOf(0x0409), german = hostOf(0x0C07), french = hostOf(0x040C);
+    const auto pane = Make<IqzThumbnailCtrl>(CLSID_qzThumbnailCtrl);
+    const auto dialogs = Make<IqzPluginUIDialogs>(CLSID_qzPluginUIDialogs);
+    const auto settings = Make<IqzDocSettingsDlg>(CLSID_qzDocSettingsDlg);
+    EXPECT_EQ(pane->Initialize(english.Get()), S_OK);
+    EXPECT_EQ(caption(), L"Grid Properties");
+    EXPECT_EQ(dialogs->put_PDF(german.Get()), S_OK);
+    const std::wstring inGerman = caption();
+    EXPECT_NE(inGerman, L"Grid Properties");
+    EXPECT_EQ(settings->Initialize(french.Get()), S_OK);
+    EXPECT_NE(caption(), inGerman);
+    EXPECT_EQ(pane->Initialize(german.Get()), S_OK);
+    EXPECT_EQ(caption(), inGerman);
+    EXPECT_EQ(pane->Reset(), S_OK);
+    EXPECT_EQ(dialogs->put_PDF(nullptr), S_OK);
+    EXPECT_EQ(caption(), inGerman) << "the language outlives the attachment";
+    EXPECT_EQ(pane->Initialize(english.Get()), S_OK);
 }
 
 TEST_F(GridDialogTest, KeepsWhatIsEnteredInTwips) {
