@@ -45,22 +45,15 @@ install_packages() {
 
 # What the prefix is made from: when this changes, it is made anew.
 prefix_recipe() {
-    { cat scripts/setup.sh scripts/wine_prefix.reg; dpkg-query -W wine64 libwine; } | sha256sum
+    { cat scripts/setup.sh scripts/wine.sh scripts/wine_prefix.reg; dpkg-query -W wine64 libwine; } | sha256sum
 }
 
 create_prefix() {
-    local recipe fonts
+    local recipe
     recipe=$(prefix_recipe)
     [ "$(cat "$WINEPREFIX/recipe" 2>/dev/null)" != "$recipe" ] || return 0
     echo "setup: creating the Wine prefix"
-    rm -rf "$WINEPREFIX"
-    mkdir -p "$WINEPREFIX"
-    start_wine  # makes the prefix
-    fonts="$WINEPREFIX/drive_c/windows/Fonts"
-    mkdir -p "$fonts"
-    cp /usr/share/wine/fonts/{tahoma,tahomabd,marlett,symbol}.ttf "$fonts"
-    timeout 60 wine64 regedit /S scripts/wine_prefix.reg
-    stop_wine
+    make_prefix
     echo "$recipe" >"$WINEPREFIX/recipe"
 }
 

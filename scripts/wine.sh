@@ -42,6 +42,20 @@ stop_wine() {
     wineserver -w
 }
 
+# Makes the prefix anew. The resolution is given in dots an inch, else it is the system's own.
+make_prefix() {  # [RESOLUTION]
+    local fonts=$WINEPREFIX/drive_c/windows/Fonts
+    rm -rf "$WINEPREFIX"
+    start_wine  # makes the prefix
+    mkdir -p "$fonts"
+    cp /usr/share/wine/fonts/{tahoma,tahomabd,marlett,symbol}.ttf "$fonts"
+    timeout 60 wine64 regedit /S "$qz_root/scripts/wine_prefix.reg"
+    if [ -n "${1:-}" ]; then
+        timeout 60 wine64 reg add 'HKCU\Control Panel\Desktop' /v LogPixels /t REG_DWORD /d "$1" /f >/dev/null
+    fi
+    stop_wine
+}
+
 # A private virtual display.
 start_display() {
     local number display
