@@ -1,6 +1,5 @@
 #include "host/host_binding.h"
 
-#include "host/host_language.h"
 #include "host/host_sink.h"
 
 #include <ocidl.h>
@@ -50,9 +49,7 @@ void HostBinding::Attach(IDispatch* candidate) {
         if (!replaced) Detach();
         Throw(result, L"The host does not tell its language");
     }
-    if (replaced) return;
-    languageId_ = static_cast<std::uint16_t>(language);
-    NoteHostLanguage(languageId_);
+    if (!replaced) languageId_ = static_cast<std::uint16_t>(language);
 }
 
 void HostBinding::Detach() noexcept {

@@ -17,8 +17,7 @@ struct ToolCall {
     CallMode mode = CallMode::Modal;
     const VARIANT* dataIn = nullptr;  ///< Null when there is none.
     VARIANT* dataOut = nullptr;       ///< Null when nothing is wanted. Untouched unless something goes there.
-    bool dataOutHolds =
-        false;  ///< It is a variable whose value is to be cleared before; else it may be garbage.
+    bool dataOutHolds = false;        ///< A variable, to let go of what it holds; else it may be garbage.
 };
 
 struct ToolCommand {

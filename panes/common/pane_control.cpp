@@ -1,5 +1,7 @@
 #include "panes/common/pane_control.h"
 
+#include "host/host_language.h"
+
 namespace qz {
 
 void PaneControl::FinalRelease() noexcept {
@@ -27,6 +29,7 @@ void PaneControl::Attach(IDispatch* candidate) {
     try {
         if (!attached) Throw(E_ABORT, L"The pane was reset while it was being attached");
         CheckHost(attached.Get());
+        if (binding_.Host()) NoteHostLanguage(binding_.LanguageId());
     } catch (...) {
         if (SameObject(Host(), attached)) LetGo();
         throw;
