@@ -57,22 +57,47 @@ class Scanner {
     std::wstring name_;
 };
 
+/// Makes the tree of what the brackets say, whose levels are limited.
+class OrderBuilder {
+  public:
+    void Add(std::wstring name) {
+        std::size_t parent = parent_;
+        if (parent != noItem && nested_[parent].level == mostLayerLevels) parent = order_[parent].parent;
+        nested_.push_back({parent_, parent == noItem ? 1 : nested_[parent].level + 1});
+        order_.push_back({std::move(name), parent});
+    }
+    void Open() noexcept { parent_ = order_.empty() ? noItem : order_.size() - 1; }
+    void Close() noexcept {
+        if (parent_ != noItem) parent_ = nested_[parent_].parent;
+    }
+    std::vector<OrderedName> Take() noexcept { return std::move(order_); }
+
+  private:
+    struct Nested {
+        std::size_t parent;  ///< As the brackets have it.
+        std::size_t level;   ///< In the tree, 1 at the top.
+    };
+
+    std::vector<OrderedName> order_;
+    std::vector<Nested> nested_;  ///< Of each name in order_.
+    std::size_t parent_ = noItem;
+};
+
 }  // namespace
 
 std::vector<OrderedName> ParseLayerOrder(std::wstring_view text) {
-    std::vector<OrderedName> order;
-    std::size_t parent = noItem;
+    OrderBuilder builder;
     Scanner scanner(text);
     while (const std::optional<Mark> mark = scanner.Next()) {
         if (*mark == Mark::Name) {
-            order.push_back({scanner.TakeName(), parent});
+            builder.Add(scanner.TakeName());
         } else if (*mark == Mark::Open) {
-            parent = order.empty() ? noItem : order.size() - 1;
-        } else if (parent != noItem) {
-            parent = order[parent].parent;
+            builder.Open();
+        } else {
+            builder.Close();
         }
     }
-    return order;
+    return builder.Take();
 }
 
 std::vector<std::vector<std::wstring>> ParseLayerGroups(std::wstring_view text) {

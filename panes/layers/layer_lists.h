@@ -11,6 +11,9 @@ namespace qz {
 /// A name keeps at most so many characters.
 inline constexpr std::size_t longestLayerName = 259;
 
+/// The tree has at most so many levels: a tree view recurses when it deletes, and the stack has an end.
+inline constexpr std::size_t mostLayerLevels = 4'000;
+
 /// No item: the top of the tree.
 inline constexpr std::size_t noItem = static_cast<std::size_t>(-1);
 
@@ -28,7 +31,8 @@ struct OrderedName {
 /// "-", ":" and "_" is dropped, parentheses and brackets too. One pass, no recursion.
 
 /// The tree, each item before those below it. An opening bracket makes the last item the parent of what
-/// follows, a closing one goes back to that parent's own.
+/// follows, a closing one goes back to that parent's own. Names nested deeper than the tree has levels stand
+/// on its last one.
 std::vector<OrderedName> ParseLayerOrder(std::wstring_view text);
 
 /// The names in each bracketed group; of nested brackets the innermost. Names outside brackets are skipped.

@@ -37,6 +37,26 @@ TEST(LayerLists, BracketsNeedNotBeBalanced) {
     EXPECT_EQ(Shape(L")(A))(B)"), L"A B");
 }
 
+TEST(LayerLists, TheTreeHas4000LevelsAndDeeperNamesStandOnTheLast) {
+    constexpr std::size_t deep = mostLayerLevels + 3;
+    std::wstring text;
+    for (std::size_t i = 0; i < deep; ++i) text += L"(n)[";
+    for (std::size_t i = 0; i < deep; ++i) text += L"](back)";
+    const std::vector<OrderedName> order = ParseLayerOrder(text);
+    ASSERT_EQ(order.size(), 2 * deep);
+    const auto parent = [&](std::size_t item) { return order[item].parent; };
+    constexpr std::size_t last = mostLayerLevels - 1;
+    for (std::size_t i = 1; i <= last; ++i) ASSERT_EQ(parent(i), i - 1);
+    for (std::size_t i = last; i < deep + 3; ++i) EXPECT_EQ(parent(i), last - 1) << i;
+    // Coming back, each closing bracket leads to the level that its opening one was on.
+    for (std::size_t i = deep + 3; i < 2 * deep - 1; ++i) {
+        ASSERT_EQ(parent(i), parent(2 * deep - 1 - i)) << i;
+    }
+    EXPECT_EQ(parent(2 * deep - 1), noItem);
+    EXPECT_TRUE(ParseLayerOrder(std::wstring(10'000, L'[')).empty());
+    EXPECT_TRUE(ParseLayerGroups(std::wstring(10'000, L'[') + std::wstring(20'000, L']')).empty());
+}
+
 TEST(LayerLists, NamesKeepLettersDigitsAndFourSigns) {
     EXPECT_EQ(ParseLayerNames(L"(a.b)(c/d)(e - f:g_h)(x[1](y)()"),
               (Names{L"ab", L"cd", L"e - f:g_h", L"x1y", L""}));
@@ -61,16 +81,6 @@ TEST(LayerLists, GroupsAreTheInnermostBrackets) {
     EXPECT_EQ(ParseLayerGroups(L"(X)[[(A)(B)][(C)](D)]](E)[]"),
               (std::vector<Names>{{L"D"}, {L"A", L"B"}, {L"C"}}));
     EXPECT_EQ(ParseLayerGroups(L"[(A)(B)"), (std::vector<Names>{{L"A", L"B"}}));
-}
-
-TEST(LayerLists, DepthDoesNotExhaustTheStack) {
-    std::wstring deep;
-    for (int i = 0; i < 10'000; ++i) deep += L"(n)[";
-    const std::vector<OrderedName> order = ParseLayerOrder(deep);
-    ASSERT_EQ(order.size(), 10'000u);
-    EXPECT_EQ(order.back().parent, 9'998u);
-    EXPECT_TRUE(ParseLayerOrder(std::wstring(10'000, L'[')).empty());
-    EXPECT_TRUE(ParseLayerGroups(std::wstring(10'000, L'[') + std::wstring(20'000, L']')).empty());
 }
 
 // Any text gives a tree in which parents come first, and names of the kept characters only.

@@ -52,6 +52,28 @@ TEST_F(LayersBuilding, TreeIsThatOfTheConfiguration) {
     EXPECT_EQ(SinkCount(host.Get()), 0);
 }
 
+TEST_F(LayersBuilding, NestingWithoutEndIsCutOff) {
+    constexpr int deep = 16'000;
+    std::wstring order;
+    for (int i = 0; i < deep; ++i) order += L"(n" + std::to_wstring(i) + L")[";
+    Configure(L"A", order + L"(A)");
+    Open();
+    long levels = 0;
+    HTREEITEM last = nullptr;
+    for (HTREEITEM item = Next(TVGN_ROOT, nullptr); item; item = Next(TVGN_CHILD, item)) {
+        last = item;
+        ++levels;
+    }
+    EXPECT_EQ(levels, 4'000);
+    for (HTREEITEM item = Next(TVGN_NEXT, last); item; item = Next(TVGN_NEXT, item)) ++levels;
+    EXPECT_EQ(levels, deep + 1) << "all are listed";
+    HostState(L"A", L"OFF");
+    EXPECT_EQ(pane->ResetToInitialVisibility(), S_OK);
+    EXPECT_EQ(HostStates(), L"+A");
+    Refresh();
+    EXPECT_EQ(pane->Reset(), S_OK);
+}
+
 TEST_F(LayersBuilding, WindowMayComeAndGo) {
     Configure(L"Ab", L"(A)[(b)]");
     ASSERT_EQ(pane->Initialize(host.Get()), S_OK);

@@ -53,6 +53,11 @@ class LayersTest : public ::testing::Test {
     /// What was written to layers since the last call: "+A -B", the suspensions of refresh as "(" and ")".
     std::wstring TakeWrites() const;
 
+    HTREEITEM Next(UINT what, HTREEITEM item) const {
+        return reinterpret_cast<HTREEITEM>(
+            SendMessageW(Tree(), TVM_GETNEXTITEM, what, reinterpret_cast<LPARAM>(item)));
+    }
+
     LoadedModule module;
     ComPtr<IReferenceHost> host = MakeHost(3);
     ComPtr<IqzLayersCtrl> pane;
@@ -60,10 +65,6 @@ class LayersTest : public ::testing::Test {
     std::optional<PaneWindow> window;
 
   private:
-    HTREEITEM Next(UINT what, HTREEITEM item) const {
-        return reinterpret_cast<HTREEITEM>(
-            SendMessageW(Tree(), TVM_GETNEXTITEM, what, reinterpret_cast<LPARAM>(item)));
-    }
     std::wstring Describe(HTREEITEM first) const;
     HTREEITEM Find(HTREEITEM first, const std::wstring& text) const;
     std::wstring Text(HTREEITEM item) const;
