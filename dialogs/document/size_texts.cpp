@@ -50,7 +50,9 @@ std::int32_t TwipsOf(std::int64_t number, SizeUnit unit) noexcept {
 }  // namespace
 
 std::int32_t Scaled(std::int64_t number, std::int64_t by, std::int64_t per) noexcept {
-    const std::int64_t product = number * by;
+    // Beyond this the result is out of range in any case.
+    const std::int64_t largest = std::numeric_limits<std::int64_t>::max() / 2 / by;
+    const std::int64_t product = std::clamp(number, -largest, largest) * by;
     const std::int64_t half = product < 0 ? -per / 2 : per / 2;
     return static_cast<std::int32_t>(std::clamp((product + half) / per, least, most));
 }

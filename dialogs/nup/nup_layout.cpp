@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <limits>
 #include <utility>
 
 namespace qz {
@@ -41,13 +42,31 @@ Rect CellOf(int page, const NUpSheet& sheet, Size lying) noexcept {
     return {across.begin, down.begin, across.end, down.end};
 }
 
-Rect Centred(Size size, const Rect& area) noexcept {
-    return Rect::At(
-        {area.left + (area.Width() - size.width) / 2, area.top + (area.Height() - size.height) / 2}, size);
+/// A size whose sides may be beyond 32 bits.
+struct LargeSize {
+    std::int64_t width = 0;
+    std::int64_t height = 0;
+};
+
+LargeSize SizeOf(const Rect& area) noexcept {
+    return {std::int64_t{area.right} - area.left, std::int64_t{area.bottom} - area.top};
 }
 
-int Part(int whole, std::int64_t numerator, std::int64_t denominator) noexcept {
-    return static_cast<int>(whole * numerator / denominator);
+std::int32_t Bounded(std::int64_t coordinate) noexcept {
+    using Limits = std::numeric_limits<std::int32_t>;
+    return static_cast<std::int32_t>(std::clamp<std::int64_t>(coordinate, Limits::min(), Limits::max()));
+}
+
+Rect Centred(LargeSize size, const Rect& area) noexcept {
+    const LargeSize room = SizeOf(area);
+    const std::int64_t left = area.left + (room.width - size.width) / 2;
+    const std::int64_t top = area.top + (room.height - size.height) / 2;
+    return {Bounded(left), Bounded(top), Bounded(left + size.width), Bounded(top + size.height)};
+}
+
+/// `whole` and `numerator` are within 32 bits.
+std::int64_t Part(std::int64_t whole, std::int64_t numerator, std::int64_t denominator) noexcept {
+    return whole * numerator / denominator;
 }
 
 }  // namespace
@@ -69,9 +88,10 @@ std::optional<NUpLayout> LayOut(const NUpSheet& sheet) {
 
 Rect FitInto(Size size, const Rect& area) noexcept {
     if (size.width <= 0 || size.height <= 0 || area.Empty()) return {};
-    const bool wide = std::int64_t{size.width} * area.Height() > std::int64_t{size.height} * area.Width();
-    const Size fitted = wide ? Size{area.Width(), Part(area.Width(), size.height, size.width)}
-                             : Size{Part(area.Height(), size.width, size.height), area.Height()};
+    const LargeSize room = SizeOf(area);
+    const bool wide = size.width * room.height > size.height * room.width;
+    const LargeSize fitted = wide ? LargeSize{room.width, Part(room.width, size.height, size.width)}
+                                  : LargeSize{Part(room.height, size.width, size.height), room.height};
     return Centred(fitted, area);
 }
 
@@ -83,10 +103,13 @@ Rect PagePlace(const Rect& cell, Size page, std::optional<int> percent) noexcept
 
 Rect Scaled(const Rect& part, Size sheet, const Rect& picture) noexcept {
     if (sheet.width <= 0 || sheet.height <= 0) return {};
-    return {picture.left + Part(part.left, picture.Width(), sheet.width),
-            picture.top + Part(part.top, picture.Height(), sheet.height),
-            picture.left + Part(part.right, picture.Width(), sheet.width),
-            picture.top + Part(part.bottom, picture.Height(), sheet.height)};
+    const auto across = [&](int x) {
+        return Bounded(picture.left + Part(x, SizeOf(picture).width, sheet.width));
+    };
+    const auto down = [&](int y) {
+        return Bounded(picture.top + Part(y, SizeOf(picture).height, sheet.height));
+    };
+    return {across(part.left), down(part.top), across(part.right), down(part.bottom)};
 }
 
 }  // namespace qz

@@ -1,8 +1,22 @@
 #include "panes/thumbnails/thumbnail_model.h"
 
+#include <algorithm>
+#include <limits>
 #include <utility>
 
 namespace qz {
+
+namespace {
+
+/// Where a rectangle ends at the latest, so that its width has 32 bits too: damaged documents have sizes and
+/// places at their ends.
+constexpr std::int64_t farthest = std::numeric_limits<std::int32_t>::max() / 2 - ThumbnailModel::frameReach;
+
+std::int32_t Bounded(std::int64_t coordinate) noexcept {
+    return static_cast<std::int32_t>(std::clamp(coordinate, -farthest, farthest));
+}
+
+}  // namespace
 
 void ThumbnailModel::SetRecords(std::vector<ThumbnailRecord> records) {
     records_ = std::move(records);
@@ -47,8 +61,10 @@ std::optional<std::size_t> ThumbnailModel::HitTest(std::int32_t clientX, std::in
 
 Rect ThumbnailModel::DrawnArea(std::size_t index) const {
     const ThumbnailRecord& record = records_.at(index);
-    const Point origin{record.x + drawMargin, record.y - scrollPosition_ + drawMargin};
-    return Rect::At(origin, {record.width, record.height}).Grown(frameReach);
+    const std::int64_t left = std::int64_t{record.x} + drawMargin;
+    const std::int64_t top = std::int64_t{record.y} - scrollPosition_ + drawMargin;
+    const Rect drawn{Bounded(left), Bounded(top), Bounded(left + record.width), Bounded(top + record.height)};
+    return drawn.Grown(frameReach);
 }
 
 IndexRange ThumbnailModel::VisibleIn(std::int32_t top, std::int32_t bottom) const {

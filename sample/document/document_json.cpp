@@ -7,6 +7,10 @@
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
+#include <cmath>
+#include <concepts>
+#include <limits>
+#include <utility>
 
 namespace qz::sample {
 
@@ -34,12 +38,53 @@ struct JsonOf {
 
 Json ToJson(const Value& value) { return std::visit(JsonOf{}, value); }
 
+template <std::integral Integer, class Number>
+bool Holds(Number number) {
+    if constexpr (std::integral<Number>) {
+        return std::in_range<Integer>(number);
+    } else {
+        // The smallest number beyond is a power of two, which floating point has exactly.
+        const double beyond = std::ldexp(1.0, std::numeric_limits<Integer>::digits);
+        return number < beyond && number > (std::signed_integral<Integer> ? -beyond - 1 : -1.0);
+    }
+}
+
+/// A whole number. What the JSON library would cut to the size, or not define, is refused.
+template <std::integral Integer>
+Integer IntegerIn(const Json& json) {
+    const bool fits = json.is_number_unsigned()  ? Holds<Integer>(json.get<std::uint64_t>())
+                      : json.is_number_integer() ? Holds<Integer>(json.get<std::int64_t>())
+                                                 : !json.is_number() || Holds<Integer>(json.get<double>());
+    if (!fits) throw FormatError("The document holds a number that is too large");
+    return json.get<Integer>();
+}
+
+/// The whole number of that name in an object.
+template <std::integral Integer>
+Integer IntegerIn(const Json& json, const char* key) {
+    return IntegerIn<Integer>(json.at(key));
+}
+
+template <std::integral Integer>
+Integer IntegerIn(const Json& json, const char* key, Integer usual) {
+    if (!json.is_object()) throw FormatError("The document's header is damaged");
+    const auto found = json.find(key);
+    return found == json.end() ? usual : IntegerIn<Integer>(*found);
+}
+
+template <std::integral Integer>
+std::vector<Integer> IntegersIn(const Json& json) {
+    std::vector<Integer> integers;
+    for (const Json& each : json) integers.push_back(IntegerIn<Integer>(each));
+    return integers;
+}
+
 Value FromJson(const Json& json) {
     if (json.is_boolean()) return json.get<bool>();
     if (json.is_number()) return json.get<double>();
     if (json.is_string()) return FromUtf8(json.get_ref<const std::string&>());
-    if (json.is_array()) return json.get<NumberList>();
-    if (json.is_object()) return ObjectList{json.at("objects").get<std::vector<ObjectId>>()};
+    if (json.is_array()) return IntegersIn<std::int32_t>(json);
+    if (json.is_object()) return ObjectList{IntegersIn<ObjectId>(json.at("objects"))};
     return {};
 }
 
@@ -132,7 +177,7 @@ class Reader {
         for (const Json& page : List("pages")) AddPage(page);
         for (const Json& picture : List("pictures")) {
             header_.pictures.push_back(
-                {picture.at("offset").get<uint64_t>(), picture.at("size").get<uint64_t>()});
+                {IntegerIn<uint64_t>(picture, "offset"), IntegerIn<uint64_t>(picture, "size")});
         }
         ReadOutline();
         for (const Json& layer : List("layers")) Fill(document_.AddLayer(Text(layer, "name")), layer);
@@ -147,34 +192,42 @@ class Reader {
   private:
     const Json& List(const char* key) const {
         static const Json none = Json::array();
+        return Part(key, none);
+    }
+    const Json& Object(const char* key) const {
+        static const Json none = Json::object();
+        return Part(key, none);
+    }
+    /// Not copied: a copy of what is nested deeply recurses.
+    const Json& Part(const char* key, const Json& usual) const {
         const auto found = json_.find(key);
-        return found == json_.end() ? none : *found;
+        return found == json_.end() ? usual : *found;
     }
 
     void AddPage(const Json& json) {
         Page page;
-        page.width = json.at("width").get<int32_t>();
-        page.height = json.at("height").get<int32_t>();
+        page.width = IntegerIn<int32_t>(json, "width");
+        page.height = IntegerIn<int32_t>(json, "height");
         page.landscape = json.value("landscape", page.width > page.height);
-        page.paperBin = json.value("paperBin", page.paperBin);
-        page.paperSize = json.value("paperSize", 0);
-        page.topMargin = json.value("topMargin", 0);
-        page.bottomMargin = json.value("bottomMargin", 0);
-        page.leftMargin = json.value("leftMargin", 0);
-        page.rightMargin = json.value("rightMargin", 0);
+        page.paperBin = IntegerIn(json, "paperBin", page.paperBin);
+        page.paperSize = IntegerIn(json, "paperSize", 0);
+        page.topMargin = IntegerIn(json, "topMargin", 0);
+        page.bottomMargin = IntegerIn(json, "bottomMargin", 0);
+        page.leftMargin = IntegerIn(json, "leftMargin", 0);
+        page.rightMargin = IntegerIn(json, "rightMargin", 0);
         document_.pages.Append(page);
-        header_.pagePictures.push_back(json.value("picture", -1));
+        header_.pagePictures.push_back(IntegerIn(json, "picture", -1));
     }
 
     PageId PageOf(const Json& json) const {
-        const int32_t number = json.value("page", 0);
+        const int32_t number = IntegerIn(json, "page", 0);
         return document_.pages.Holds(number) ? document_.pages.At(number).id : 0;
     }
 
     void ReadOutline() {
         std::vector<BookmarkId> path{Outline::root};  // the last bookmark of each level
         for (const Json& item : List("outline")) {
-            const auto level = static_cast<size_t>(std::max(0, item.value("level", 0)));
+            const auto level = static_cast<size_t>(std::max(0, IntegerIn(item, "level", 0)));
             path.resize(std::min(level + 1, path.size()));
             path.push_back(document_.outline.Add(path.back(), -1, Text(item, "title"), PageOf(item),
                                                  item.value("open", false)));
@@ -182,24 +235,26 @@ class Reader {
     }
 
     void Fill(DocumentObject& object, const Json& json) {
-        ids_[json.value("id", ObjectId(0))] = object.id;
-        if (const auto values = json.find("values"); values != json.end()) {
-            for (const auto& [name, value] : values->items()) {
-                Attribute* attribute = object.Find(FromUtf8(name));
-                if (attribute) attribute->value = Coerced(FromJson(value), attribute->description->type);
-            }
-        }
+        ids_[IntegerIn(json, "id", ObjectId(0))] = object.id;
+        if (const auto values = json.find("values"); values != json.end()) SetValues(object, *values);
         if (const auto further = json.find("further"); further != json.end()) {
             for (const Json& attribute : *further) AddFurther(object, attribute);
+        }
+    }
+
+    static void SetValues(DocumentObject& object, const Json& values) {
+        for (const auto& [name, value] : values.items()) {
+            Attribute* attribute = object.Find(FromUtf8(name));
+            if (attribute) attribute->value = Coerced(FromJson(value), attribute->description->type);
         }
     }
 
     static void AddFurther(DocumentObject& object, const Json& json) {
         AttributeDescription described;
         described.name = Text(json, "name");
-        described.category = json.value("category", described.category);
-        described.flags = json.value("flags", described.flags);
-        described.type = json.value("type", described.type);
+        described.category = IntegerIn(json, "category", described.category);
+        described.flags = IntegerIn(json, "flags", described.flags);
+        described.type = IntegerIn(json, "type", described.type);
         described.description = Text(json, "description");
         AddAttribute(object, std::move(described), FromJson(json.at("value")));
     }
@@ -213,7 +268,7 @@ class Reader {
     }
 
     void AddObject(const Json& json) {
-        const auto type = json.at("type").get<int32_t>();
+        const auto type = IntegerIn<int32_t>(json, "type");
         const PageId page = PageOf(json);
         if (page == 0 && !IsAction(type)) return;  // it would be found nowhere
         Fill(document_.objects.Create(type, Text(json, "name"), page), json);
@@ -222,18 +277,16 @@ class Reader {
     /// The importer's plain lists of document values and further information, and saved objects.
     void ReadInformation() {
         DocumentObject& settings = *document_.objects.Find(document_.Settings());
-        Fill(settings, {{"values", json_.value("document", Json::object())}});
-        Fill(settings, json_.value("settings", Json::object()));
+        SetValues(settings, Object("document"));
+        Fill(settings, Object("settings"));
         DocumentObject& information = *document_.objects.Find(document_.Information());
-        Fill(information, json_.value("informationObject", Json::object()));
-        const Json further = json_.value("information", Json::object());
-        for (const auto& [name, value] : further.items()) {
+        Fill(information, Object("informationObject"));
+        for (const auto& [name, value] : Object("information").items()) {
             AddAttribute(information,
                          {FromUtf8(name), 'I', attribute_flag::readOnly, type_code::text, L"", L"", L""},
                          FromJson(value));
         }
-        Fill(*document_.objects.Find(document_.PageCollection()),
-             json_.value("pageCollection", Json::object()));
+        Fill(*document_.objects.Find(document_.PageCollection()), Object("pageCollection"));
     }
 
     /// Leads references, which hold the file's ids, to the objects made for them.

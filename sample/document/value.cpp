@@ -45,6 +45,11 @@ Integer ToBounded(double number) {
     return static_cast<Integer>(rounded);
 }
 
+float ToSingle(double number) {
+    if (std::abs(number) > std::numeric_limits<float>::max()) BadValue();
+    return static_cast<float>(number);
+}
+
 double RequireNumber(const Value& value) {
     const std::optional<double> number = AsNumber(value);
     if (!number) BadValue();
@@ -130,7 +135,7 @@ Value Coerced(const Value& value, uint32_t type) {
                        : ToBounded<int32_t>(number);
         }
         case type_code::real:
-            return static_cast<float>(RequireNumber(value));
+            return ToSingle(RequireNumber(value));
         case type_code::realChoice:
             return RequireNumber(value);
         case type_code::boolean:

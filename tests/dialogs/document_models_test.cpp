@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 namespace qz {
 namespace {
 
@@ -25,6 +27,17 @@ TEST(PaperSizes, HasItsBoundsAndItsQuirks) {
     EXPECT_EQ(PaperSizeOf(34), (PaperSize{2500, 2530}));
     EXPECT_EQ(PaperSizeOf(56), (PaperSize{2286, 3048}));
     EXPECT_EQ(PaperSizeOf(57), (PaperSize{2270, 3560})) << "its own name's size again";
+}
+
+TEST(SizeTexts, ScaledNumbersStickAtTheEndsOf32Bits) {
+    constexpr std::int64_t most = std::numeric_limits<std::int64_t>::max();
+    constexpr std::int32_t largest = std::numeric_limits<std::int32_t>::max();
+    EXPECT_EQ(Scaled(5, 1, 2), 3);
+    EXPECT_EQ(Scaled(-5, 1, 2), -3);
+    for (const std::int64_t number : {most, most / 1440, std::int64_t{1} << 40}) {
+        EXPECT_EQ(Scaled(number, 1440, 254), largest) << number;
+        EXPECT_EQ(Scaled(-number - 1, 1440, 254), -largest - 1) << number;
+    }
 }
 
 TEST(SizeTexts, ShowTwipsInTheUnit) {

@@ -87,6 +87,9 @@ TEST(NUpLayout, PagesLieInTheMiddleOfTheirCells) {
     EXPECT_EQ(PagePlace(cell, {100, 50}, 50), (Rect{175, 187, 225, 212}));
     EXPECT_EQ(PagePlace(cell, {1000, 1000}, 100), cell) << "cut off";
     EXPECT_EQ(FitInto({0, 5}, cell), Rect{});
+    constexpr int most = 2147483647;
+    EXPECT_EQ(PagePlace(cell, {most, most}, most), cell) << "sizes of damaged pages";
+    EXPECT_EQ(PagePlace({-most, -most, most, most}, {most, 1}, 100), (Rect{-1073741824, -1, 1073741823, 0}));
 }
 
 TEST(NUpLayout, PicturesAreToScale) {

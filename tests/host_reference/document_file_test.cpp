@@ -3,7 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <random>
+#include <string>
 #include <string_view>
 
 namespace qz::sample {
@@ -121,6 +123,53 @@ TEST(DocumentFile, DamagedAnywhereDoesNoHarm) {
         }
     }
     EXPECT_GT(refused, 1000);
+}
+
+Document WithHeader(const std::string& header) {
+    Bytes bytes = SaveDocument(Sample(), {});
+    bytes.resize(documentPreambleSize);
+    for (size_t i = 0; i < 4; ++i) bytes[12 + i] = static_cast<uint8_t>(header.size() >> (8 * i));
+    bytes.insert(bytes.end(), header.begin(), header.end());
+    std::fill(bytes.begin() + 16, bytes.begin() + 24, uint8_t{0});
+    return LoadDocument(std::make_shared<const Bytes>(bytes));
+}
+
+TEST(DocumentFile, NumbersBeyondTheirSizeAreRefused) {
+    const auto page = [](const std::string& further) {
+        return R"({"pages": [{"width": 1, "height": 2)" + further + "}]}";
+    };
+    EXPECT_EQ(WithHeader(page(R"(, "leftMargin": -2147483648, "topMargin": 1e3)")).pages.Count(), 1);
+    const std::string tooLarge[] = {
+        page(R"(, "leftMargin": 2147483648)"),
+        page(R"(, "topMargin": -2147483649)"),
+        page(R"(, "rightMargin": 1e10)"),
+        page(R"(, "paperBin": 32768)"),
+        R"({"pages": [{"width": 18446744073709551615, "height": 2}]})",
+        R"({"outline": [{"level": 4294967296, "title": "x"}]})",
+        R"({"pictures": [{"offset": -1, "size": 0}]})",
+        R"({"settings": {"further": [{"name": "x", "value": [1, 4294967297]}]}})",
+        R"({"fonts": [{"id": 4294967296, "name": "x"}]})",
+        R"({"objects": [{"type": 4294967302, "page": 1}]})",
+    };
+    for (const std::string& header : tooLarge) {
+        try {
+            WithHeader(header);
+            ADD_FAILURE() << "taken: " << header;
+        } catch (const FormatError& error) {
+            EXPECT_STREQ(error.what(), "The document holds a number that is too large") << header;
+        }
+    }
+}
+
+TEST(DocumentFile, DeeplyNestedHeadersEndWithoutTheStack) {
+    const std::string deep = std::string(1'000'000, '[') + std::string(1'000'000, ']');
+    for (const char* key : {"pages", "settings", "document", "information", "pageCollection", "unknown"}) {
+        const std::string header = std::string(R"({")") + key + R"(": )" + deep + "}";
+        try {
+            EXPECT_EQ(WithHeader(header).pages.Count(), 0) << key;  // what is not asked for is left alone
+        } catch (const FormatError&) {
+        }
+    }
 }
 
 TEST(DocumentFile, NotADocumentAtAll) {

@@ -1,5 +1,6 @@
 // The flow of thumbnails, hit testing and culling.
 #include "panes/thumbnails/thumbnail_layout.h"
+#include "panes/thumbnails/thumbnail_model.h"
 
 #include <gtest/gtest.h>
 
@@ -82,6 +83,18 @@ TEST(ThumbnailLayout, SizesOfDamagedPagesStayInRange) {
     EXPECT_EQ(layout.ContentHeight(), big);
     for (const ThumbnailRecord& record : records) EXPECT_GE(record.y, 0);
     EXPECT_NO_FATAL_FAILURE(layout.HitTest(records, big, big));
+
+    ThumbnailModel model;
+    model.SetRecords(records);
+    model.SetClientSize(300, 300);
+    for (const std::int64_t position : {std::int64_t{0}, std::int64_t{big}}) {
+        model.ScrollTo(position);
+        for (std::size_t i = 0; i < records.size(); ++i) {
+            const Rect area = model.DrawnArea(i);
+            EXPECT_EQ(area.Width() > 0, records[i].width > 0) << i;
+            EXPECT_EQ(area.Height(), area.bottom - area.top) << i;
+        }
+    }
 }
 
 /// What the pane's users see must not depend on the search being clever.
