@@ -38,6 +38,18 @@ struct Inspected {
     ComPtr<IDispatch> object;
 };
 
+/// Many numbers, as a value of the reference host and as the text that shows them.
+struct Numbers {
+    Numbers() {
+        for (int i = 0; i < count; ++i) {
+            text += (i == 0 ? L"" : L"\r\n") + std::to_wstring(i * 20);
+        }
+    }
+
+    static constexpr int count = 2'000;
+    std::wstring text;
+};
+
 /// The readings and insertions that filling the list cannot do without, into a list that is as visible as
 /// ours.
 class BareList {
@@ -121,10 +133,29 @@ class Inspector {
     Inspector(const Inspector&) = delete;
     Inspector& operator=(const Inspector&) = delete;
 
+    /// Gives the object a list of numbers; its editor is the one that Edit opens.
+    void AddNumbers(const Numbers& numbers) {
+        ThrowIfFailed(inspected_.host->AddAttribute(Bstr(L"Objects[Subject]").Get(), Bstr(L"Numbers").Get(),
+                                                    '*', 0, 8195, Bstr(L"A list").Get(), Bstr(L"").Get(),
+                                                    _variant_t(numbers.text.c_str())));
+        Fill();
+    }
+    void Edit(const Numbers& numbers) {
+        const HWND inner = window_->Child(L"#32770");
+        const HWND list = GetDlgItem(inner, listId);
+        const LRESULT entry = SendMessageW(list, LB_FINDSTRINGEXACT, 0, reinterpret_cast<LPARAM>(L"Numbers"));
+        SendMessageW(list, LB_SETCURSEL, static_cast<WPARAM>(entry), 0);
+        SendMessageW(inner, WM_COMMAND, MAKEWPARAM(listId, LBN_SELCHANGE), reinterpret_cast<LPARAM>(list));
+        const HWND field =
+            FindWindowExW(FindWindowExW(inner, nullptr, L"#32770", nullptr), nullptr, nullptr, nullptr);
+        if (static_cast<std::size_t>(GetWindowTextLengthW(field)) != numbers.text.size()) {
+            Throw(E_UNEXPECTED, L"The numbers are not shown");
+        }
+    }
+
     /// A time is worth nothing when the work was not done.
     void Fill() {
         ThrowIfFailed(pane_->put_Object(inspected_.object.Get()));
-        constexpr int listId = 205;
         const HWND inner = window_->Child(L"#32770");
         if (SendDlgItemMessageW(inner, listId, LB_GETCOUNT, 0, 0) < attributeCount) {
             Throw(E_UNEXPECTED, L"The attributes are not listed");
@@ -132,10 +163,37 @@ class Inspector {
     }
 
   private:
+    static constexpr int listId = 205;
+
     LoadedModule module_;
     Inspected inspected_;
     ComPtr<IqzPropCtrl> pane_;
     std::optional<PaneWindow> window_;
+};
+
+/// The system's field alone: made, given the text, and shown.
+class BareField {
+  public:
+    BareField()
+        : frame_(CreateWindowExW(0, L"STATIC", L"", WS_POPUP | WS_VISIBLE, 400, 0, 300, 500, nullptr, nullptr,
+                                 nullptr, nullptr)) {}
+    ~BareField() { DestroyWindow(frame_); }
+    BareField(const BareField&) = delete;
+    BareField& operator=(const BareField&) = delete;
+
+    void Show(const std::wstring& text) const {
+        constexpr DWORD style = WS_CHILD | WS_VISIBLE | ES_MULTILINE | ES_WANTRETURN | ES_AUTOVSCROLL |
+                                ES_AUTOHSCROLL | WS_VSCROLL | WS_BORDER;
+        const HWND field =
+            CreateWindowExW(0, L"EDIT", L"", style, 0, 0, 280, 100, frame_, nullptr, nullptr, nullptr);
+        SendMessageW(field, EM_SETLIMITTEXT, 0x7FFFFFFE, 0);
+        SendMessageW(field, WM_SETFONT, reinterpret_cast<WPARAM>(GetStockObject(DEFAULT_GUI_FONT)), FALSE);
+        SetWindowTextW(field, text.c_str());
+        DestroyWindow(field);
+    }
+
+  private:
+    HWND frame_;
 };
 
 }  // namespace
@@ -145,6 +203,11 @@ void MeasureInspector(Report& report) {
     BareList bare;
     report.AddTime("list 2,000 attributes to the bare host calls and insertions",
                    MeasureBoth([&] { inspector.Fill(); }, [&] { bare.Fill(); }), 1.5);
+    const Numbers numbers;
+    const BareField field;
+    inspector.AddNumbers(numbers);
+    report.AddTime("open the editor of 2,000 numbers to the bare field with their text",
+                   MeasureBoth([&] { inspector.Edit(numbers); }, [&] { field.Show(numbers.text); }), 3);
 }
 
 }  // namespace qz::bench

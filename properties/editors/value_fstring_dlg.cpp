@@ -27,8 +27,11 @@ std::optional<std::wstring> ListText(const VARIANT& value) {
     return TextOf(numbers);
 }
 
-std::wstring ShownList(const VARIANT& value) {
-    if (const std::optional<std::wstring> text = ShownText(value)) return FieldLines(*text);
+std::wstring ShownList(const VARIANT& value, std::uint32_t type) {
+    if (const std::optional<std::wstring> text = ShownText(value)) {
+        const std::optional<std::vector<std::int32_t>> numbers = NumbersOf(*text, type);
+        return numbers ? TextOf(*numbers) : FieldLines(*text);
+    }
     std::optional<std::wstring> list;
     // An array of more than one dimension, or of no numbers, is shown as none.
     Guard(IID_NULL, [&] { list = ListText(value); });
@@ -50,7 +53,7 @@ void CValueFStringDlg::OnSized(SIZE client) {
 }
 
 void CValueFStringDlg::ShowValue(const _variant_t* value) {
-    field_.Show(value ? ShownList(*value) : std::wstring());
+    field_.Show(value ? ShownList(*value, Edited().row.type) : std::wstring());
 }
 
 std::optional<_variant_t> CValueFStringDlg::EnteredValue() const {

@@ -6,8 +6,8 @@
 
 namespace qz {
 
-/// The list as a text, "1; 2; 3": see properties/model/number_list.h. A text that is no such list is not
-/// written, and stays.
+/// The list as a text, one number a line: see properties/model/number_list.h. A text that is no such list is
+/// not written, and stays.
 class CValueFStringDlg final : public CValueDlg {
   public:
     explicit CValueFStringDlg(Language language) noexcept;

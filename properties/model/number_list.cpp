@@ -24,7 +24,7 @@ std::optional<std::vector<std::int32_t>> NumbersOf(std::wstring_view text, std::
 std::wstring TextOf(std::span<const std::int32_t> numbers) {
     std::wstring text;
     for (const std::int32_t number : numbers) {
-        if (!text.empty()) text += L"; ";
+        if (!text.empty()) text += L"\r\n";
         text += std::to_wstring(number);
     }
     return text;

@@ -1,4 +1,4 @@
-// Lists of whole numbers as text: "1; 2; 3".
+// Lists of whole numbers as text, one a line.
 #pragma once
 
 #include <cstdint>
@@ -15,6 +15,8 @@ namespace qz {
 /// others.
 std::optional<std::vector<std::int32_t>> NumbersOf(std::wstring_view text, std::uint32_t type);
 
+/// With the line breaks of a field of several lines: one long line would be laid out again for each part of
+/// it.
 std::wstring TextOf(std::span<const std::int32_t> numbers);
 
 }  // namespace qz

@@ -145,7 +145,7 @@ TEST(NumberList, ReadsWhatItWritesAndOtherSeparators) {
     EXPECT_EQ(NumbersOf(L"", 8195), Numbers{});
     EXPECT_EQ(NumbersOf(L" ;\r\n", 8195), Numbers{});
     const Numbers numbers{-2147483647 - 1, 0, 2147483647};
-    EXPECT_EQ(TextOf(numbers), L"-2147483648; 0; 2147483647");
+    EXPECT_EQ(TextOf(numbers), L"-2147483648\r\n0\r\n2147483647");
     EXPECT_EQ(NumbersOf(TextOf(numbers), 8195), numbers);
 }
 

@@ -144,12 +144,12 @@ TEST_F(ValueEnum, ListsAreTextsOfNumbers) {
         return left + L" -> " + TextOf(Text());
     };
     ASSERT_TRUE(Choose(L"TabStops"));
-    EXPECT_EQ(TextOf(Text()), L"720; 1440; 2160");
+    EXPECT_EQ(TextOf(Text()), L"720\r\n1440\r\n2160");
     Type(Text(), L"9");
     EXPECT_EQ(Value(L"Objects[F]", L"TabStops").parray->rgsabound[0].cElements, 3U) << "not yet";
-    EXPECT_EQ(typed(L"TabStops", L"1, -2\r70000"), L"1, -2\r\n70000 -> 1; -2; 70000");
-    EXPECT_EQ(typed(L"TabStops", L"1; x"), L"1; x -> 1; -2; 70000") << "no list: not written";
-    EXPECT_EQ(typed(L"ShadingStops", L"32768"), L"32768 -> 0; 50; 100") << "16 bits";
+    EXPECT_EQ(typed(L"TabStops", L"1, -2\r70000"), L"1, -2\r\n70000 -> 1\r\n-2\r\n70000");
+    EXPECT_EQ(typed(L"TabStops", L"1; x"), L"1; x -> 1\r\n-2\r\n70000") << "no list: not written";
+    EXPECT_EQ(typed(L"ShadingStops", L"32768"), L"32768 -> 0\r\n50\r\n100") << "16 bits";
     EXPECT_EQ(typed(L"ShadingStops", L"7"), L"7 -> 7");
     EXPECT_EQ(typed(L"ShadingStops", L""), L" -> ");
 }
