@@ -48,11 +48,11 @@ void StatusView::Create(HWND bar) {
 }
 
 void StatusView::Destroy() noexcept {
+    tips_.Destroy();  // first, as it watches the other windows and has to let go of each
     for (const StatusField field : statusFields) {
         if (IsEntry(field) && windows_[field]) SetAccessibleName(windows_[field].Handle(), L"");
         windows_[field].Destroy();
     }
-    tips_.Destroy();
     bar_ = nullptr;
 }
 

@@ -1,6 +1,7 @@
 // The inspector and its host: what is selected, what vanishes, what a host without offers.
 #include "tests/properties/inspector_fixture.h"
 #include "tests/support/during_modal.h"
+#include "tests/support/heap_blocks.h"
 #include "tests/support/interrupted_host.h"
 
 namespace qz {
@@ -128,6 +129,23 @@ TEST_F(InspectorFollows, AnotherObjectOrHostIsSetInsideAnyOneCall) {
                           }),
                       0);
         }
+    }
+}
+
+TEST_F(InspectorFollows, EventsLeaveNothingBehind) {
+    Create(typeField, L"F");
+    Open();
+    Select(L"Objects[F]");
+    const auto raise = [&](int times) {
+        for (int i = 0; i < times; ++i) host->RaiseChange(0);
+        PumpMessages();
+        return HeapBlocksInUse();
+    };
+    for (const std::wstring& name : Names()) {
+        ASSERT_TRUE(Choose(name.c_str()));
+        constexpr int times = 40;
+        const std::size_t before = raise(10);
+        EXPECT_LT(raise(times), before + times) << name;
     }
 }
 

@@ -1,6 +1,8 @@
 // What the fields show, and when they change.
 #include "status_fixture.h"
 
+#include "tests/support/heap_blocks.h"
+
 namespace qz {
 namespace {
 
@@ -213,6 +215,21 @@ TEST_F(StatusFields, CanBeDrawnWithoutAWindow) {
     SelectObject(dc, before);
     DeleteObject(bitmap);
     DeleteDC(dc);
+}
+
+TEST_F(StatusFields, ActivatedAgainAndAgainLeavesNothingBehind) {
+    const auto host = MakeHost(4);
+    ASSERT_EQ(bar->Initialize(host.Get()), S_OK);
+    const auto activate = [&](int times) {
+        for (int i = 0; i < times; ++i) {
+            window = std::make_unique<PaneWindow>(bar.Get(), wide);
+            window.reset();
+        }
+        return HeapBlocksInUse();
+    };
+    constexpr int times = 40;
+    const std::size_t before = activate(10);
+    EXPECT_LT(activate(times), before + times);
 }
 
 }  // namespace
