@@ -26,6 +26,13 @@ void BareOutline::Read(bool everything) {
     SendMessageW(tree_, WM_SETREDRAW, TRUE, 0);
 }
 
+void BareOutline::CollapseAll() const {
+    SendMessageW(tree_, WM_SETREDRAW, FALSE, 0);
+    SendMessageW(tree_, TVM_EXPAND, TVE_COLLAPSE, 0);
+    SendMessageW(tree_, WM_SETREDRAW, TRUE, 0);
+    InvalidateRect(tree_, nullptr, TRUE);
+}
+
 void BareOutline::Build(IDispatch* parent, HTREEITEM under, bool everything) {
     static wchar_t nothing[] = L"";
     const long count = Ask(parent, countId).lVal;

@@ -22,6 +22,8 @@ class BareOutline {
     /// The top level with a placeholder below each parent.
     void ReadTopLevel() { Read(false); }
     void ReadEverything() { Read(true); }
+    /// The one request for all items.
+    void CollapseAll() const;
 
   private:
     struct Child {

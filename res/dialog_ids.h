@@ -177,3 +177,8 @@
 #define QZ_DOCX_SECTIONS 771
 #define QZ_DOCX_CHOOSERS 800
 #define QZ_DOCX_FIELDS 1100
+
+// How far a long operation is.
+#define QZ_DIALOG_PROGRESS 136
+#define QZ_PROGRESS_TEXT 780
+#define QZ_PROGRESS_BAR 781

@@ -16,6 +16,9 @@
 #define QZ_TEXT_LAYERS 1005
 #define QZ_TEXT_STATUS_BAR 1006
 
+// What a long operation does, in the window that shows how far it is.
+#define QZ_TEXT_READING_BOOKMARKS 1010
+
 // What the thumbnail pane tells the user when it refuses.
 #define QZ_TEXT_ONLY_CONTIGUOUS_PAGES 300
 #define QZ_TEXT_NOT_ALL_PAGES 301

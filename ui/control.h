@@ -11,6 +11,7 @@
 #include "com/connection_points.h"
 #include "com/object.h"
 #include "ui/ambient.h"
+#include "ui/modal_owner.h"
 #include "ui/property_image.h"
 #include "ui/view_advice.h"
 #include "ui/window.h"
@@ -205,6 +206,9 @@ class Control : public IOleObject,
     HRESULT PutBackColor(OLE_COLOR colour) noexcept;
     OLE_COLOR BackColorOle() const { return backColor_.value_or(InitialBackColor()); }
     COLORREF BackColorRef() const;
+
+    /// What a modal window of the control stands over.
+    ModalOwner OwnerOfModal() const { return {window_.Handle(), frame_}; }
 
     /// Shows a message box over the container's window and gives the button pressed; 0 when it could not be
     /// shown. The container is modal meanwhile, and messages are handled: look again at

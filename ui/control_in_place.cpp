@@ -233,13 +233,9 @@ STDMETHODIMP Control::SetObjectRects(LPCRECT position, LPCRECT clip) {
 
 int Control::ShowMessageBox(const std::wstring& text, UINT style, const std::wstring& caption) {
     const ComPtr<IUnknown> alive = Self();
-    const ComPtr<IOleInPlaceFrame> frame = frame_;  // the same one is told of the end
-    if (frame) frame->EnableModeless(FALSE);
+    const ModelessPause pause(frame_);
     const HWND window = window_.Handle();
-    const int button =
-        MessageBoxW(window ? GetAncestor(window, GA_ROOT) : nullptr, text.c_str(), caption.c_str(), style);
-    if (frame) frame->EnableModeless(TRUE);
-    return button;
+    return MessageBoxW(window ? GetAncestor(window, GA_ROOT) : nullptr, text.c_str(), caption.c_str(), style);
 }
 
 STDMETHODIMP Control::ReactivateAndUndo() { return INPLACE_E_NOTUNDOABLE; }

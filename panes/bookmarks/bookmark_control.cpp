@@ -55,20 +55,31 @@ STDMETHODIMP BookmarkControl::InitializeV(VARIANT Var) {
 }
 
 STDMETHODIMP BookmarkControl::Refresh() {
-    return Run([this] { Rebuild(oneLevel); });
+    return Run([this]() -> HRESULT {
+        Rebuild(oneLevel);
+        return S_OK;  // also when it comes later, or is being done
+    });
 }
 
 STDMETHODIMP BookmarkControl::ExpandAll() {
-    return Run([this] {
+    return Run([this]() -> HRESULT {
+        if (othersTurn_) return S_FALSE;
         const ComPtr<IVandraX> host = Host();
-        Rebuild(everyLevel);
-        if (!SameObject(Host(), host)) return;  // the tree is another host's by now
-        if (tree_ && tree_.Root()) tree_.Expand(tree_.Root(), TVE_EXPAND);
+        const HRESULT result = Rebuild(everyLevel);
+        const bool stillShown = SameObject(Host(), host);  // or the tree is another host's by now
+        if (result == S_OK && stillShown && tree_ && tree_.Root()) tree_.Expand(tree_.Root(), TVE_EXPAND);
+        return result;
     });
 }
 
 STDMETHODIMP BookmarkControl::CollapseAll() {
-    return Run([this] { Collapse(); });
+    return Run([this]() -> HRESULT {
+        if (othersTurn_) return S_FALSE;
+        if (!Host() || !tree_) return S_OK;
+        const TreeRedrawScope still(tree_);
+        tree_.CollapseAll();
+        return S_OK;
+    });
 }
 
 // Properties

@@ -48,6 +48,13 @@ class BookmarkControl final
     STDMETHODIMP put_IconSet(qzBookmarksCtrlIconSetConsts newVal) override;
 
   private:
+    class HostSilence;
+    class ReadingProgress;
+    struct OutlineOutcome {
+        bool empty;
+        bool whole;
+    };
+
     // bookmark_control.cpp: members
     REFCLSID ClassId() const noexcept override { return CLSID_qzBookmarkCtrl; }
     std::span<const PersistentProperty> PersistentProperties() const override;
@@ -61,11 +68,13 @@ class BookmarkControl final
     void ShowDocument() override;
     void ForgetDocument() override;
     void FollowHost() override;
-    void Rebuild(const OutlineLimits& limits);
-    void ReadOutline(const ComPtr<IVandraX>& host, const OutlineLimits& limits);
-    bool BuildTree(IDispatch* root, BookmarkReader reader, const OutlineLimits& limits);
+    HRESULT Rebuild(const OutlineLimits& limits);
+    HRESULT ReadOutline(const ComPtr<IVandraX>& host, const OutlineLimits& limits);
+    OutlineOutcome BuildTree(IDispatch* root, BookmarkReader reader, HostSilence& silence,
+                             const OutlineLimits& limits);
+    template <class Reading>
+    HRESULT EndableByRefresh(Reading&& reading);
     BookmarkReader MakeReader(const ComPtr<IVandraX>& host) const;
-    void Collapse();
 
     // BookmarkTreeListener
     bool ReadBelow(HTREEITEM item) override;
@@ -103,6 +112,10 @@ class BookmarkControl final
     long documentMode_ = 0;
     long bookmarkState_ = 0;
     bool refreshing_ = false;
+    /// Messages are being handled in the midst of a long reading. Nothing else is read then: a refresh asked
+    /// for ends the reading, and comes after it.
+    bool othersTurn_ = false;
+    bool refreshAsked_ = false;
 };
 
 }  // namespace qz

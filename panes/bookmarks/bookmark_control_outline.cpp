@@ -2,6 +2,12 @@
 #include "panes/bookmarks/bookmark_control.h"
 
 #include "host/auto_refresh.h"
+#include "res/strings.h"
+#include "res/text_ids.h"
+#include "ui/progress.h"
+
+#include <optional>
+#include <utility>
 
 namespace qz {
 
@@ -13,30 +19,85 @@ constexpr DISPID sizeToZero = 2;
 constexpr long modeChanged = 0x1;
 constexpr long outlineChanged = 0x8000;
 
-/// The next item in reading order; null after the last.
-HTREEITEM NextInOrder(const TreeView& tree, HTREEITEM item) {
-    if (const HTREEITEM child = tree.FirstChild(item)) return child;
-    for (; item; item = tree.Parent(item)) {
-        if (const HTREEITEM sibling = tree.NextSibling(item)) return sibling;
-    }
-    return nullptr;
-}
-
 [[noreturn]] void ThrowReplaced() { Throw(E_FAIL, L"The outline was replaced while it was being read"); }
 
-/// Marks the time in which the tree is being rebuilt.
-class RefreshingScope {
+/// Sets a flag for a scope.
+class FlagScope {
   public:
-    explicit RefreshingScope(bool& flag) noexcept : flag_(flag) { flag_ = true; }
-    ~RefreshingScope() { flag_ = false; }
-    RefreshingScope(const RefreshingScope&) = delete;
-    RefreshingScope& operator=(const RefreshingScope&) = delete;
+    explicit FlagScope(bool& flag) noexcept : flag_(flag) { flag_ = true; }
+    ~FlagScope() { flag_ = false; }
+    FlagScope(const FlagScope&) = delete;
+    FlagScope& operator=(const FlagScope&) = delete;
 
   private:
     bool& flag_;
 };
 
 }  // namespace
+
+/// While it lasts the host does not refresh itself, and what it tells is not followed.
+class BookmarkControl::HostSilence {
+  public:
+    HostSilence(BookmarkControl& pane, const ComPtr<IVandraX>& host) : pane_(pane), host_(host) { Begin(); }
+
+    void End() noexcept {
+        suspended_.reset();
+        ours_.reset();
+    }
+    /// Nothing for a host that is no longer the pane's.
+    void Resume() {
+        if (SameObject(pane_.Host(), host_)) Begin();
+    }
+
+  private:
+    void Begin() {
+        ours_.emplace(pane_);
+        suspended_.emplace(host_.Get());
+    }
+
+    BookmarkControl& pane_;
+    ComPtr<IVandraX> host_;
+    std::optional<OwnHostCalls> ours_;
+    std::optional<qzVandraAutoRefresh> suspended_;
+};
+
+/// Shows how far a walk through every level is, and lets the user end it.
+class BookmarkControl::ReadingProgress {
+  public:
+    using Walk = OutlineWalk<BookmarkReader, BookmarkTree>;
+
+    /// `silence`, where there is one, is broken whenever messages are handled.
+    ReadingProgress(BookmarkControl& pane, const Walk& walk, HostSilence* silence)
+        : pane_(pane),
+          walk_(walk),
+          silence_(silence),
+          progress_(std::in_place, pane.OwnerOfModal(), pane.TextLanguage(),
+                    LoadText(pane.TextLanguage(), QZ_TEXT_READING_BOOKMARKS)) {}
+    ~ReadingProgress() {
+        const FlagScope turn(pane_.othersTurn_);
+        progress_.reset();
+    }
+    ReadingProgress(const ReadingProgress&) = delete;
+    ReadingProgress& operator=(const ReadingProgress&) = delete;
+
+    bool GoOn() {
+        if (!progress_->Due()) return true;
+        if (silence_) silence_->End();
+        bool goesOn = false;
+        {
+            const FlagScope turn(pane_.othersTurn_);
+            goesOn = progress_->GoOn(walk_.Share());
+        }
+        if (silence_) silence_->Resume();
+        return goesOn;
+    }
+
+  private:
+    BookmarkControl& pane_;
+    const Walk& walk_;
+    HostSilence* silence_;
+    std::optional<Progress> progress_;
+};
 
 // The host
 // -----------------------------------------------------------------------------------------------------
@@ -70,18 +131,39 @@ void BookmarkControl::FollowHost() {
 // Rebuilding
 // ---------------------------------------------------------------------------------------------------
 
-/// A rebuild inside a rebuild, which only a call out can ask for, is left undone.
-void BookmarkControl::Rebuild(const OutlineLimits& limits) {
+/// A rebuild inside a rebuild, which only a call out can ask for, is left undone. S_FALSE when the user has
+/// ended it.
+HRESULT BookmarkControl::Rebuild(const OutlineLimits& limits) {
+    if (othersTurn_) {
+        refreshAsked_ = true;
+        return S_OK;
+    }
     const ComPtr<IVandraX> host = Host();
-    if (!host || refreshing_) return;
-    const RefreshingScope refreshing(refreshing_);
-    const OwnHostCalls ours(*this);
-    const qzVandraAutoRefresh suspended(host.Get());
-    if (!SameObject(Host(), host)) ThrowReplaced();  // what the tree shows is another host's by now
-    ReadOutline(host, limits);
+    if (!host || refreshing_) return S_OK;
+    return EndableByRefresh([&] {
+        const FlagScope refreshing(refreshing_);
+        return ReadOutline(host, limits);
+    });
 }
 
-void BookmarkControl::ReadOutline(const ComPtr<IVandraX>& host, const OutlineLimits& limits) {
+/// Runs a reading. When a refresh was asked for in its midst, that ends it, is made now, and the result is
+/// S_FALSE.
+template <class Reading>
+HRESULT BookmarkControl::EndableByRefresh(Reading&& reading) {
+    HRESULT result = S_OK;
+    try {
+        result = reading();
+    } catch (...) {
+        if (!refreshAsked_) throw;
+    }
+    if (!std::exchange(refreshAsked_, false)) return result;
+    Rebuild(oneLevel);
+    return S_FALSE;
+}
+
+HRESULT BookmarkControl::ReadOutline(const ComPtr<IVandraX>& host, const OutlineLimits& limits) {
+    HostSilence silence(*this, host);
+    if (!SameObject(Host(), host)) ThrowReplaced();  // what the tree shows is another host's by now
     tree_.Clear();
     const BookmarkReader reader = MakeReader(host);
     long state = 0;
@@ -94,26 +176,34 @@ void BookmarkControl::ReadOutline(const ComPtr<IVandraX>& host, const OutlineLim
     if (!reader.Valid()) ThrowReplaced();
     bookmarkState_ = state;
     documentMode_ = mode;
-    if (!BuildTree(root.Get(), reader, limits)) {
+    const OutlineOutcome outcome = BuildTree(root.Get(), reader, silence, limits);
+    if (outcome.empty && outcome.whole) {
         events_.Raise(sizeToZero);
     } else if (tree_) {
         tree_.Select(nullptr);
     }
+    return outcome.whole ? S_OK : S_FALSE;
 }
 
-/// False when there is no bookmark. Without a window the outline is only looked at: the tree is filled when
-/// it is made.
-bool BookmarkControl::BuildTree(IDispatch* root, BookmarkReader reader, const OutlineLimits& limits) {
+/// Without a window the outline is only looked at: the tree is filled when it is made.
+BookmarkControl::OutlineOutcome BookmarkControl::BuildTree(IDispatch* root, BookmarkReader reader,
+                                                           HostSilence& silence,
+                                                           const OutlineLimits& limits) {
     try {
         if (!tree_) {
             std::vector<BookmarkEntry> entries;
             reader.Children(root, entries);
-            return !entries.empty();
+            return {entries.empty(), true};
         }
         const TreeRedrawScope still(tree_);
         OutlineWalk walk(reader, tree_, limits);
+        std::optional<ReadingProgress> progress;
+        if (limits.levels > oneLevel.levels) {
+            progress.emplace(*this, walk, &silence);
+            reader.AskToGoOn([&progress] { return progress->GoOn(); });
+        }
         walk.TopLevel(root, TVI_ROOT);
-        return tree_.Root() != nullptr;
+        return {!tree_.Root(), !walk.Stopped()};
     } catch (const OutlineChanged&) {
         ThrowReplaced();
     } catch (const ComError& error) {
@@ -124,7 +214,7 @@ bool BookmarkControl::BuildTree(IDispatch* root, BookmarkReader reader, const Ou
 /// A reader that stops when the host or the tree is no longer what it is now.
 BookmarkReader BookmarkControl::MakeReader(const ComPtr<IVandraX>& host) const {
     return BookmarkReader(members_, [this, host, version = tree_.Version()] {
-        return SameObject(Host(), host) && tree_.Version() == version;
+        return SameObject(Host(), host) && tree_.Version() == version && !refreshAsked_;
     });
 }
 
@@ -134,7 +224,7 @@ BookmarkReader BookmarkControl::MakeReader(const ComPtr<IVandraX>& host) const {
 bool BookmarkControl::ReadBelow(HTREEITEM item) {
     const ComPtr<IVandraX> host = Host();
     const ComPtr<IDispatch> bookmark = tree_.BookmarkOf(item);
-    if (!host || !bookmark) return false;
+    if (!host || !bookmark || othersTurn_) return false;
     const HRESULT result = Guard(__uuidof(IqzBookmarkCtrl), [&] {
         BookmarkReader reader = MakeReader(host);
         const TreeRedrawScope still(tree_);
@@ -147,21 +237,18 @@ bool BookmarkControl::ReadBelow(HTREEITEM item) {
 void BookmarkControl::ExpandBelow(HTREEITEM item) {
     const ComPtr<IVandraX> host = Host();
     const ComPtr<IDispatch> bookmark = tree_.BookmarkOf(item);
-    if (!host || !bookmark || !tree_.FirstChild(item)) return;
-    const TreeRedrawScope still(tree_);
-    tree_.Forget(item);
-    BookmarkReader reader = MakeReader(host);
-    OutlineWalk(reader, tree_, everyLevel).Below(bookmark, item);
-    tree_.Open(item);
-}
-
-void BookmarkControl::Collapse() {
-    if (!Host() || !tree_) return;
-    const TreeRedrawScope still(tree_);
-    tree_.Expand(nullptr, TVE_COLLAPSE);
-    for (HTREEITEM item = tree_.Root(); item; item = NextInOrder(tree_, item)) {
-        if (tree_.Expanded(item)) tree_.Expand(item, TVE_COLLAPSE);
-    }
+    if (!host || !bookmark || !tree_.FirstChild(item) || othersTurn_) return;
+    EndableByRefresh([&]() -> HRESULT {
+        const TreeRedrawScope still(tree_);
+        tree_.Forget(item);
+        BookmarkReader reader = MakeReader(host);
+        OutlineWalk walk(reader, tree_, everyLevel);
+        ReadingProgress progress(*this, walk, nullptr);
+        reader.AskToGoOn([&progress] { return progress.GoOn(); });
+        walk.Below(bookmark, item);
+        if (!tree_.Unread(item)) tree_.Open(item);
+        return S_OK;
+    });
 }
 
 void BookmarkControl::ActivateItem(HTREEITEM item) {

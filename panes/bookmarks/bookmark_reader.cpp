@@ -63,6 +63,9 @@ std::wstring BookmarkReader::TitleOf(IDispatch* bookmark) {
 
 void BookmarkReader::RequireValid() const {
     if (!Valid()) throw OutlineChanged();
+    const bool goesOn = !goOn_ || goOn_();
+    if (!Valid()) throw OutlineChanged();
+    if (!goesOn) throw OutlineStopped();
 }
 
 }  // namespace qz

@@ -31,11 +31,14 @@ class BookmarkReader {
         : members_(std::move(members)), valid_(std::move(valid)) {}
 
     /// Appends the bookmarks below `parent`. Throws the host's failure, E_POINTER for a bookmark that is
-    /// missing, DISP_E_TYPEMISMATCH for answers of another kind, OutlineChanged.
+    /// missing, DISP_E_TYPEMISMATCH for answers of another kind, OutlineChanged, OutlineStopped.
     void Children(const Node& parent, std::vector<BookmarkEntry>& entries);
 
     /// What `valid` says now.
     bool Valid() const { return valid_(); }
+    /// `goOn` is asked after each call to the host, too. It may do anything itself; when it says no, nothing
+    /// more is read.
+    void AskToGoOn(std::function<bool()> goOn) { goOn_ = std::move(goOn); }
 
     /// Not counted: `node` keeps it alive.
     Identity IdentityOf(const Node& node) const;
@@ -48,6 +51,7 @@ class BookmarkReader {
 
     std::shared_ptr<BookmarkMembers> members_;
     std::function<bool()> valid_;
+    std::function<bool()> goOn_;
 };
 
 }  // namespace qz

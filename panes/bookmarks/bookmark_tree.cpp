@@ -4,6 +4,9 @@
 
 #include <windowsx.h>
 
+#include <algorithm>
+#include <utility>
+
 namespace qz {
 
 namespace {
@@ -43,6 +46,7 @@ class CountedItems {
 
 void BookmarkTree::Create(HWND parent, const wchar_t* name) {
     TreeView::Create(parent, name, treeStyle, treeId);
+    parents_.clear();
     ++version_;
 }
 
@@ -76,6 +80,7 @@ bool BookmarkTree::Unread(HTREEITEM item) const {
 void BookmarkTree::Forget(HTREEITEM item) {
     Expand(item, TVE_COLLAPSE);
     DeleteBelow(item);
+    parents_.erase(item);
     LeaveUnread(item);
 }
 
@@ -91,6 +96,7 @@ std::vector<HTREEITEM> BookmarkTree::Insert(HTREEITEM under, std::vector<Bookmar
         throw;
     }
     for (const TreeItem& item : counted.Items()) places.push_back(item.handle);
+    if (under != TVI_ROOT && !places.empty()) parents_[under] = ++lastRead_;
     return places;
 }
 
@@ -107,12 +113,25 @@ void BookmarkTree::Open(HTREEITEM item) {
     ShowImage(item);
 }
 
+/// In the order of reading, which has outer items before inner ones: collapsing what is seen costs more.
+void BookmarkTree::CollapseAll() {
+    Expand(nullptr, TVE_COLLAPSE);
+    std::vector<std::pair<HTREEITEM, std::uint64_t>> parents(parents_.begin(), parents_.end());
+    std::ranges::sort(parents, {}, &std::pair<HTREEITEM, std::uint64_t>::second);
+    const std::uint64_t version = version_;
+    for (const auto& [item, turn] : parents) {
+        if (version_ != version) return;  // somebody else who looks at the messages has emptied the tree
+        if (Expanded(item)) Expand(item, TVE_COLLAPSE);
+    }
+}
+
 void BookmarkTree::ShowImage(HTREEITEM item) {
     if (!FirstChild(item)) return SetImage(item, bookmarkLeaf);
     SetImage(item, Expanded(item) ? bookmarkExpanded : bookmarkCollapsed);
 }
 
-void BookmarkTree::OnDeleted(LPARAM data) {
+void BookmarkTree::OnDeleted(HTREEITEM item, LPARAM data) {
+    parents_.erase(item);
     IDispatch* const bookmark = reinterpret_cast<IDispatch*>(data);
     if (!bookmark) return;
     ++version_;
@@ -132,7 +151,7 @@ std::optional<LRESULT> BookmarkTree::OnNotify(const NMHDR& header) {
     const auto& change = reinterpret_cast<const NMTREEVIEWW&>(header);
     switch (header.code) {
         case TVN_DELETEITEMW:
-            OnDeleted(change.itemOld.lParam);
+            OnDeleted(change.itemOld.hItem, change.itemOld.lParam);
             return 0;
         case TVN_ITEMEXPANDINGW:
             // Whatever way has led here: an item is not expanded to show its placeholder.

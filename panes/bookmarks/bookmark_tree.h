@@ -5,6 +5,7 @@
 #include "panes/common/tree_view.h"
 
 #include <cstdint>
+#include <unordered_map>
 
 namespace qz {
 
@@ -50,6 +51,8 @@ class BookmarkTree final : public TreeView {
     bool Unread(HTREEITEM item) const;
     /// Makes an item unread again.
     void Forget(HTREEITEM item);
+    /// Collapses every item. Costs what was read into, not every leaf.
+    void CollapseAll();
 
     // For `OutlineWalk`
     /// Puts bookmarks under an item in place of its placeholder, or under TVI_ROOT. Moves the titles away.
@@ -69,7 +72,7 @@ class BookmarkTree final : public TreeView {
     std::optional<LRESULT> OnDoubleClick(POINT point);
     std::optional<LRESULT> OnKey(WPARAM key);
     bool EnsureRead(HTREEITEM item);
-    void OnDeleted(LPARAM data);
+    void OnDeleted(HTREEITEM item, LPARAM data);
     void DeleteBelow(HTREEITEM item);
     void ShowImage(HTREEITEM item);
 
@@ -78,6 +81,9 @@ class BookmarkTree final : public TreeView {
     bool opening_ = false;  ///< `Open` is at work: nothing is to be read, and it sets the image itself.
     int deleting_ = 0;      ///< Deletions of the tree's own under way; their bookmarks gather in `deleted_`.
     std::vector<ComPtr<IDispatch>> deleted_;
+    /// Items whose children were read, as no others can be expanded, each with its turn in the reading.
+    std::unordered_map<HTREEITEM, std::uint64_t> parents_;
+    std::uint64_t lastRead_ = 0;
 };
 
 }  // namespace qz

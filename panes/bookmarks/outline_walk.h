@@ -21,6 +21,9 @@ struct OutlineEntry {
 /// Thrown while a walk reads: what it works on is gone, and it ends at once.
 struct OutlineChanged : std::exception {};
 
+/// Thrown while a walk reads: nothing more is to be read. What was read stays.
+struct OutlineStopped : std::exception {};
+
 /// What keeps the walk from going on for ever in an outline that contains itself, and from exhausting the
 /// stack of a tree view, which recurses when it deletes.
 struct OutlineLimits {
@@ -40,7 +43,7 @@ inline constexpr OutlineLimits everyLevel{};
 ///             void Open(Place)          all its children are there
 ///
 /// A bookmark whose children cannot be read, that stands below itself, or that is beyond the limits is left
-/// unread; the walk goes on with the others.
+/// unread; the walk goes on with the others. One that is stopped leaves all that it has not come to unread.
 template <class Source, class View>
 class OutlineWalk {
   public:
@@ -55,7 +58,12 @@ class OutlineWalk {
     /// read, that is thrown and nothing has been inserted.
     void Below(const Node& parent, Place under) {
         Entries entries;
-        source_.Children(parent, entries);
+        try {
+            source_.Children(parent, entries);
+        } catch (const OutlineStopped&) {
+            stopped_ = true;
+            return;
+        }
         Enter(parent, under, entries);
         Finish();
     }
@@ -68,6 +76,8 @@ class OutlineWalk {
             source_.Children(root, entries);
         } catch (const OutlineChanged&) {
             throw;
+        } catch (const OutlineStopped&) {
+            stopped_ = true;
         } catch (...) {
             failure = std::current_exception();
         }
@@ -76,8 +86,25 @@ class OutlineWalk {
         if (failure) std::rethrow_exception(failure);
     }
 
+    /// The walk was stopped before its end.
+    bool Stopped() const noexcept { return stopped_; }
+
+    /// How much is done, from 0 to 1: what is below a bookmark counts as much as what is below its siblings.
+    double Share() const noexcept {
+        double done = 0;
+        double width = 1;
+        for (const Level& level : path_) {
+            if (level.next == 0 || width < leastShare) break;
+            width /= static_cast<double>(level.parents.size());
+            done += static_cast<double>(level.next - 1) * width;
+        }
+        return done;
+    }
+
   private:
     using Identity = typename Source::Identity;
+
+    static constexpr double leastShare = 1e-4;  ///< That anybody could see.
 
     struct Parent {
         Node node;
@@ -117,8 +144,8 @@ class OutlineWalk {
     }
 
     bool Descend(const Parent& parent) {
-        if (path_.size() >= limits_.levels || inserted_ >= limits_.bookmarks || OnPath(parent.node))
-            return false;
+        const bool beyond = path_.size() >= limits_.levels || inserted_ >= limits_.bookmarks;
+        if (stopped_ || beyond || OnPath(parent.node)) return false;
         try {
             Entries entries;
             source_.Children(parent.node, entries);
@@ -126,6 +153,9 @@ class OutlineWalk {
             return true;
         } catch (const OutlineChanged&) {
             throw;
+        } catch (const OutlineStopped&) {
+            stopped_ = true;
+            return false;
         } catch (...) {
             return false;
         }
@@ -141,6 +171,7 @@ class OutlineWalk {
     OutlineLimits limits_;
     std::vector<Level> path_;
     std::size_t inserted_ = 0;
+    bool stopped_ = false;
 };
 
 }  // namespace qz

@@ -1,37 +1,9 @@
 // Hosts whose bookmarks are not what they should be.
+#include "odd_bookmark.h"
 #include "outline_fixture.h"
-
-#include <comdef.h>
 
 namespace qz {
 namespace {
-
-/// A bookmark that answers whatever it is told to.
-class OddBookmark final : public Object<OddBookmark, IDispatch> {
-  public:
-    _variant_t count{0L};
-    _variant_t title{L"odd"};
-    std::function<_variant_t(long)> item = [](long) { return _variant_t(); };
-    std::function<void()> onCount = [] {};
-
-    STDMETHODIMP GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
-    STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
-    STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR* names, UINT, LCID, DISPID* ids) override {
-        const std::wstring name = names[0];
-        *ids = name == L"Count" ? 1 : name == L"Item" ? 0 : name == L"Title" ? 2 : DISPID_UNKNOWN;
-        return *ids == DISPID_UNKNOWN ? DISP_E_UNKNOWNNAME : S_OK;
-    }
-    STDMETHODIMP Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS* parameters, VARIANT* result, EXCEPINFO*,
-                        UINT*) override {
-        if (id == 1) {
-            const std::function<void()> action = onCount;
-            action();
-        }
-        if (id == 0 && parameters->cArgs != 1) return DISP_E_BADPARAMCOUNT;
-        _variant_t answer = id == 1 ? count : id == 2 ? title : item(parameters->rgvarg[0].lVal);
-        return VariantCopy(result, &answer);
-    }
-};
 
 class BadOutlines : public OutlineTest {
   protected:

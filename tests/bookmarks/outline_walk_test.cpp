@@ -20,11 +20,13 @@ struct NumberSource {
     std::function<std::vector<int>(int)> below;
     std::set<int> unreadable = {};
     int readsUntilChange = -1;
+    int readsUntilStop = -1;
     long reads = 0;
 
     void Children(int node, Entries& entries) {
         ++reads;
         if (readsUntilChange-- == 0) throw OutlineChanged();
+        if (readsUntilStop-- == 0) throw OutlineStopped();
         for (const int child : below(node)) {
             if (unreadable.contains(child)) throw std::runtime_error("unreadable");
             entries.push_back({child, std::to_wstring(child), !below(child).empty()});
@@ -107,6 +109,37 @@ TEST(OutlineWalk, EndsAtOnceWhenTheOutlineChanged) {
         EXPECT_THROW(OutlineWalk(source, view, everyLevel).TopLevel(0, 0), OutlineChanged);
         EXPECT_EQ(source.reads, reads + 1);
     }
+}
+
+TEST(OutlineWalk, StoppedLeavesTheRestUnreadAndAsksNoMore) {
+    const char* const shown[] = {"", "+1 +2 +3 ?1 ?3 ", "+1 +2 +3 +11 +12 ?11 !1 ?3 ",
+                                 "+1 +2 +3 +11 +12 +111 !11 !1 ?3 "};
+    for (int reads = 0; reads < 5; ++reads) {
+        NumberSource source{SmallOutline};
+        source.readsUntilStop = reads;
+        TextView view;
+        OutlineWalk walk(source, view, everyLevel);
+        walk.TopLevel(0, 0);
+        EXPECT_EQ(walk.Stopped(), reads < 4);
+        if (reads < 4) {
+            EXPECT_EQ(view.text, shown[reads]);
+        }
+        EXPECT_EQ(source.reads, std::min(reads + 1, 4));
+    }
+}
+
+TEST(OutlineWalk, TheShareGrowsFrom0To1) {
+    NumberSource source{SmallOutline};
+    TextView view;
+    OutlineWalk walk(source, view, everyLevel);
+    std::vector<double> shares;
+    source.below = [&](int node) {
+        if (shares.empty() || shares.back() != walk.Share()) shares.push_back(walk.Share());
+        return SmallOutline(node);
+    };
+    EXPECT_EQ(walk.Share(), 0);
+    walk.TopLevel(0, 0);
+    EXPECT_EQ(shares, (std::vector<double>{0, 0.5}));
 }
 
 TEST(OutlineWalk, BookmarksBelowThemselvesAreNotReadAgain) {

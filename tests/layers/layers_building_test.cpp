@@ -53,7 +53,7 @@ TEST_F(LayersBuilding, TreeIsThatOfTheConfiguration) {
 }
 
 TEST_F(LayersBuilding, NestingWithoutEndIsCutOff) {
-    constexpr int deep = 16'000;
+    constexpr int deep = 8'000;
     std::wstring order;
     for (int i = 0; i < deep; ++i) order += L"(n" + std::to_wstring(i) + L")[";
     Configure(L"A", order + L"(A)");

