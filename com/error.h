@@ -15,7 +15,7 @@ namespace qz {
 
 /// An error on its way to the boundary. The text is for the developer who calls the component.
 struct ComError : std::exception {
-    ComError(HRESULT code, std::wstring text) : code(code), text(std::move(text)) {}
+    ComError(HRESULT failure, std::wstring description) : code(failure), text(std::move(description)) {}
     const char* what() const noexcept override { return "COM error"; }
 
     HRESULT code;

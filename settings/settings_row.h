@@ -22,20 +22,20 @@ struct SettingsField {
 class SettingsRow {
   public:
     template <typename Record = zrSettings>
-    constexpr SettingsRow(const wchar_t* key, bool byDefault, bool Record::*member = nullptr) noexcept
-        : key(key), field(SettingsField<bool>{byDefault, static_cast<bool zrSettings::*>(member)}) {}
+    constexpr SettingsRow(const wchar_t* name, bool byDefault, bool Record::*member = nullptr) noexcept
+        : key(name), field(SettingsField<bool>{byDefault, static_cast<bool zrSettings::*>(member)}) {}
     template <typename Record = zrSettings>
-    constexpr SettingsRow(const wchar_t* key, int byDefault, std::int32_t Record::*member = nullptr) noexcept
-        : key(key),
+    constexpr SettingsRow(const wchar_t* name, int byDefault, std::int32_t Record::*member = nullptr) noexcept
+        : key(name),
           field(SettingsField<std::int32_t>{byDefault, static_cast<std::int32_t zrSettings::*>(member)}) {}
     template <typename Record = zrSettings>
-    constexpr SettingsRow(const wchar_t* key, std::uint8_t byDefault, std::uint8_t Record::*member) noexcept
-        : key(key),
+    constexpr SettingsRow(const wchar_t* name, std::uint8_t byDefault, std::uint8_t Record::*member) noexcept
+        : key(name),
           field(SettingsField<std::uint8_t>{byDefault, static_cast<std::uint8_t zrSettings::*>(member)}) {}
     template <typename Record = zrSettings>
-    constexpr SettingsRow(const wchar_t* key, const wchar_t* byDefault,
+    constexpr SettingsRow(const wchar_t* name, const wchar_t* byDefault,
                           std::wstring Record::*member = nullptr) noexcept
-        : key(key), field(TextField{byDefault, static_cast<std::wstring zrSettings::*>(member)}) {}
+        : key(name), field(TextField{byDefault, static_cast<std::wstring zrSettings::*>(member)}) {}
 
     using TextField = SettingsField<std::wstring, const wchar_t*>;
 

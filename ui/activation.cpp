@@ -63,9 +63,8 @@ void CallerContext::Capture() noexcept {
     if (before) ReleaseActCtx(before);
 }
 
-CallerActivation::CallerActivation(const CallerContext& context) noexcept : active_(false) {
-    active_ = ActivateActCtx(context.Handle(), &cookie_) != FALSE;
-}
+CallerActivation::CallerActivation(const CallerContext& context) noexcept
+    : active_(ActivateActCtx(context.Handle(), &cookie_) != FALSE) {}
 
 CallerActivation::~CallerActivation() {
     if (active_) DeactivateActCtx(0, cookie_);

@@ -51,8 +51,8 @@ class CallerActivation {
     CallerActivation& operator=(const CallerActivation&) = delete;
 
   private:
-    bool active_;
     ULONG_PTR cookie_ = 0;
+    bool active_;  ///< Behind the cookie that comes with it.
 };
 
 }  // namespace qz

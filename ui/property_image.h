@@ -28,7 +28,7 @@ struct StoredProperty {
 struct BadPropertyImage : std::exception {
     enum class Reason { notOurs, newerVersion, damaged };
 
-    explicit BadPropertyImage(Reason reason) noexcept : reason(reason) {}
+    explicit BadPropertyImage(Reason why) noexcept : reason(why) {}
     const char* what() const noexcept override { return "bad property image"; }
 
     Reason reason;

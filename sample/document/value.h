@@ -50,7 +50,7 @@ constexpr uint32_t databaseField = 8711;
 enum class AccessFailure { NoSuchObject, NoSuchAttribute, ReadOnly, BadValue, NotAllowed };
 
 struct AccessError : std::runtime_error {
-    AccessError(AccessFailure failure, const char* text) : std::runtime_error(text), failure(failure) {}
+    AccessError(AccessFailure about, const char* text) : std::runtime_error(text), failure(about) {}
     AccessFailure failure;
 };
 
