@@ -189,7 +189,7 @@ TEST_F(FormatData, FollowsTheSeparatorsAndThePattern) {
     EXPECT_EQ(Text(L"0.0", _variant_t(L"text")), L"0.0") << "each type has a language of its own";
     EXPECT_EQ(Text(L"0.0", number), L"1234,5");
 
-    for (const short refused : {59, 0, 32, -44, 0x2C2C}) {
+    for (const short refused : std::initializer_list<short>{59, 0, 32, -44, 0x2C2C}) {
         EXPECT_EQ(formatter->put_DecimalSeperator(refused), static_cast<HRESULT>(0x80040001));
         EXPECT_NE(TakeErrorText().find(L"decimal separator"), std::wstring::npos);
         EXPECT_EQ(formatter->put_ThousandSeperator(refused), static_cast<HRESULT>(0x80040007));

@@ -54,7 +54,7 @@ class HearingChild final : public ChildWindow {
 // Wine those of version 6 for the whole process once that is loaded.
 constexpr const wchar_t* classes[] = {WC_BUTTONW, WC_EDITW, WC_LISTBOXW, WC_COMBOBOXW, WC_STATICW};
 
-TEST(Activation, ChildrenAreOfTheModulesVersionAndTheProgramsWindowsAreNot) {
+TEST(ModuleActivationTest, ChildrenAreOfTheModulesVersionAndTheProgramsWindowsAreNot) {
     for (const wchar_t* const name : classes) {
         SCOPED_TRACE(std::string(name, name + wcslen(name)));
         HearingParent parent;
@@ -84,7 +84,7 @@ TEST(Activation, ChildrenAreOfTheModulesVersionAndTheProgramsWindowsAreNot) {
     }
 }
 
-TEST(Activation, GoesWithAnException) {
+TEST(ModuleActivationTest, GoesWithAnException) {
     HearingParent parent;
     HearingChild child;
     EXPECT_THROW(child.Create(parent.Handle(), {.className = L"no such class"}), ComError);
@@ -92,7 +92,7 @@ TEST(Activation, GoesWithAnException) {
 }
 
 /// A program may have its own reasons for a context, such as classes without registration.
-TEST(Activation, TheContextOfWhoHadTheWindowMadeIsKept) {
+TEST(ModuleActivationTest, TheContextOfWhoHadTheWindowMadeIsKept) {
     ModuleActivation standsForTheirs;
     HearingParent parent;
     SendMessageW(parent.Handle(), WM_APP, 0, 0);
