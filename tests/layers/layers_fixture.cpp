@@ -1,5 +1,7 @@
 #include "layers_fixture.h"
 
+#include "tests/support/resolution.h"
+
 #include <cstring>
 
 namespace qz {
@@ -114,8 +116,8 @@ RECT LayersTest::TextRect(const std::wstring& text) const {
 void LayersTest::Click(const std::wstring& text, Part part, UINT message) const {
     const RECT rect = TextRect(text);
     int x = rect.left + 3;
-    if (part == Part::Check) x = rect.left - 9;
-    if (part == Part::Expand) x = rect.left - 27;
+    if (part == Part::Check) x = rect.left - Scaled(9);
+    if (part == Part::Expand) x = rect.left - Scaled(27);
     if (part == Part::Row) x = rect.right + 20;
     const LPARAM point = MAKELPARAM(x, (rect.top + rect.bottom) / 2);
     const bool right = message == WM_RBUTTONDOWN;

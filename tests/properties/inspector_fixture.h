@@ -8,6 +8,7 @@
 #include "tests/support/host_under_test.h"
 #include "tests/support/message_box_answer.h"
 #include "tests/support/pane_window.h"
+#include "tests/support/resolution.h"
 
 #include "generated/qzVandraExt.h"
 
@@ -37,7 +38,7 @@ class InspectorTest : public ::testing::Test {
     ~InspectorTest() override;
 
     /// Opens the inspector in a window and gives it the host.
-    void Open(SIZE size = {320, 480});
+    void Open(SIZE size = {Scaled(320), Scaled(480)});
     /// Closes the window and lets the inspector go.
     void End();
 

@@ -119,16 +119,16 @@ TEST_F(PropertiesDialogTest, ModelessShowsObjectsOfItsList) {
 }
 
 TEST_F(PropertiesDialogTest, PlaceIsKeptWithinLimits) {
-    Save(100, 120, 1100, 220);
+    Save(60, 120, 2060, 220);
     ASSERT_EQ(dialog->DoModeless(Owner()), S_OK);
-    EXPECT_EQ(Size().cx, 600);
-    EXPECT_EQ(Size().cy, 300);
-    EXPECT_EQ(Place().left, 100);
+    EXPECT_EQ(Size().cx, Scaled(600));
+    EXPECT_EQ(Size().cy, Scaled(300));
+    EXPECT_EQ(Place().left, 60);
     SetWindowPos(Window(), nullptr, 40, 50, 450, 500, SWP_NOZORDER);
     RECT sizing{10, 10, 2000, 100};
     SendMessageW(Window(), WM_SIZING, WMSZ_RIGHT, reinterpret_cast<LPARAM>(&sizing));
-    EXPECT_EQ(sizing.right - sizing.left, 600);
-    EXPECT_EQ(sizing.bottom - sizing.top, 300);
+    EXPECT_EQ(sizing.right - sizing.left, Scaled(600));
+    EXPECT_EQ(sizing.bottom - sizing.top, Scaled(300));
     // The inspector takes what is below the row of buttons.
     RECT inspector{}, client{};
     GetWindowRect(FindWindowExW(Window(), nullptr, L"qzVandraExt.Window", nullptr), &inspector);
@@ -139,7 +139,7 @@ TEST_F(PropertiesDialogTest, PlaceIsKeptWithinLimits) {
     EXPECT_EQ(OldPixels(Window()), 0) << "made wider";
     SetWindowPos(Window(), nullptr, 40, 50, 450, 500, SWP_NOZORDER);
     Press(IDOK);
-    EXPECT_EQ(Saved(L"left"), 100) << "saved when the object goes, not before";
+    EXPECT_EQ(Saved(L"left"), 60) << "saved when the object goes, not before";
     dialog.Reset();
     EXPECT_EQ(Saved(L"left"), 40);
     EXPECT_EQ(Saved(L"top"), 50);

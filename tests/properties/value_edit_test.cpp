@@ -40,8 +40,8 @@ TEST_F(ValueEdit, WhatMakesNoNumberIsPutBack) {
     InspectField();
     ASSERT_TRUE(Choose(L"Left"));
     EXPECT_EQ(Style() & scrolling, 0);
-    EXPECT_EQ(SizeOf(Text()).cx, 60);
-    EXPECT_EQ(SizeOf(Text()).cy, 20);
+    EXPECT_EQ(SizeOf(Text()).cx, Scaled(60));
+    EXPECT_EQ(SizeOf(Text()).cy, Scaled(20));
     EXPECT_EQ(SendMessageW(Text(), EM_GETLIMITTEXT, 0, 0), 2147483646);
     Type(Text(), L"12");
     SendMessageW(Text(), EM_SETSEL, 1, 1);
@@ -135,7 +135,7 @@ TEST_F(ValueEdit, LinesFillTheEditor) {
     ASSERT_TRUE(Choose(L"Text"));
     EXPECT_EQ(Style() & scrolling, scrolling);
     EXPECT_EQ(SizeOf(Text()).cx, SizeOf(Editor()).cx);
-    EXPECT_EQ(SizeOf(Text()).cy, SizeOf(Editor()).cy - 4);
+    EXPECT_EQ(SizeOf(Text()).cy, SizeOf(Editor()).cy - Scaled(4));
     EXPECT_EQ(Shown(), L"one\r\ntwo");
     EXPECT_NE(DialogCode(VK_RETURN) & DLGC_WANTALLKEYS, 0);
     EXPECT_EQ(DialogCode(VK_TAB) & DLGC_WANTALLKEYS, 0) << "the focus gets out again";

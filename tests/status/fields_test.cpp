@@ -60,7 +60,7 @@ TEST_F(StatusFields, FollowEveryChangeOfTheHost) {
 }
 
 TEST_F(StatusFields, AreEmptyWithoutAHost) {
-    window = std::make_unique<PaneWindow>(bar.Get(), wide);
+    window = std::make_unique<PaneWindow>(bar.Get(), Wide());
     EXPECT_EQ(bar->Reset(), S_OK);
     EXPECT_EQ(bar->Initialize(nullptr), E_INVALIDARG);
     EXPECT_NE(TakeErrorText(), L"");

@@ -10,7 +10,7 @@ namespace {
 class StatusHostFails : public StatusTest {};
 
 TEST_F(StatusHostFails, AnyOneCallOfInitialize) {
-    window = std::make_unique<PaneWindow>(bar.Get(), wide);
+    window = std::make_unique<PaneWindow>(bar.Get(), Wide());
     const auto host = MakeHost(4);
     SelectNew(host.Get(), L"Stamp", {1, 2, 3, 4});
     const ULONG before = ReferencesOf(host.Get());

@@ -6,6 +6,7 @@
 #include "tests/support/error_text.h"
 #include "tests/support/host_under_test.h"
 #include "tests/support/pane_window.h"
+#include "tests/support/resolution.h"
 
 #include "generated/qzVandraExt.h"
 
@@ -19,7 +20,7 @@ class StatusTest : public ::testing::Test {
   protected:
     using enum StatusField;
 
-    static constexpr SIZE wide{900, 26};
+    static SIZE Wide() { return {Scaled(900), Scaled(26)}; }
 
     StatusTest() {
         ComPtr<IClassFactory> factory;
@@ -33,7 +34,7 @@ class StatusTest : public ::testing::Test {
     }
 
     /// Shows a host's document in a window.
-    void Show(IReferenceHost* host, SIZE size = wide) {
+    void Show(IReferenceHost* host, SIZE size = Wide()) {
         window = std::make_unique<PaneWindow>(bar.Get(), size);
         ASSERT_EQ(bar->Initialize(host), S_OK);
     }

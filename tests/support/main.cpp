@@ -21,6 +21,8 @@ class OleThread : public testing::Environment {
 int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
 #ifdef _WIN32
+    SetProcessDPIAware();  // else the system hides the screen's resolution, and tests at all of them are the
+                           // same
     qz::InstallCrashGuard();
     testing::AddGlobalTestEnvironment(new OleThread);  // googletest deletes it
 #endif

@@ -46,12 +46,12 @@ class Hands {
 /// A pane beside the first, on a document of its own.
 class OtherPane {
   public:
-    OtherPane(ComPtr<IqzThumbnailCtrl> made, ComPtr<IReferenceHost> itsHost)
+    OtherPane(ComPtr<IqzThumbnailCtrl> made, ComPtr<IReferenceHost> itsHost, SIZE size)
         : pane(std::move(made)), host(std::move(itsHost)) {
         frame_ = CreateWindowExW(0, L"STATIC", L"other", WS_POPUP | WS_VISIBLE | WS_CLIPCHILDREN, left, 0,
-                                 220, 400, nullptr, nullptr, nullptr, nullptr);
+                                 size.cx, size.cy, nullptr, nullptr, nullptr, nullptr);
         site_ = MakeObject<ControlSite>(frame_);
-        site_->position = {0, 0, 220, 400};
+        site_->position = {0, 0, size.cx, size.cy};
         ThrowIfFailed(pane.As(&object_));
         ThrowIfFailed(object_->SetClientSite(site_->Client()));
         ThrowIfFailed(
@@ -182,7 +182,7 @@ TEST_F(Dragging, OnlyARangeWithoutGapsMoves) {
 }
 
 TEST_F(Dragging, BetweenTwoDocuments) {
-    OtherPane other(MakePane(), MakeTellingHost(2, 6));
+    OtherPane other(MakePane(), MakeTellingHost(2, 6), paneSize);
     Select({2, 3});
     Drag(ScreenPointOn(2), OtherPane::PointOn(1));
     EXPECT_EQ(OrderOf(other.host.Get()), (PageList{6, 1, 2, 7}));
@@ -194,13 +194,13 @@ TEST_F(Dragging, BetweenTwoDocuments) {
 }
 
 TEST_F(Dragging, BetweenTwoPanesOfOneDocument) {
-    OtherPane other(MakePane(), host);
+    OtherPane other(MakePane(), host, paneSize);
     Drag(ScreenPointOn(2), OtherPane::PointOn(4));
     EXPECT_EQ(Order(), (PageList{0, 2, 3, 1, 4, 5, 6, 7})) << "moved, not doubled and not lost";
 }
 
 TEST_F(Dragging, TheLastPageStays) {
-    OtherPane other(MakePane(), MakeTellingHost(1, 9));
+    OtherPane other(MakePane(), MakeTellingHost(1, 9), paneSize);
     ControlKey('A');
     EXPECT_NE(BoxDuring([&] { Drag(ScreenPointOn(2), OtherPane::PointOn(1)); }), L"");
     EXPECT_EQ(TakeEvents(), (Events{"4:2,&1"}));
@@ -269,7 +269,7 @@ TEST_F(Dragging, ToAnotherProgram) {
 
 TEST_F(Dragging, AFailingHostKeepsThePages) {
     const ComPtr<IReferenceHost> failing = MakeTellingHost(2, 6);
-    OtherPane other(MakePane(), failing);
+    OtherPane other(MakePane(), failing, paneSize);
     for (const wchar_t* operation : {L"InsertPagesFromStream", L"MovePages", L"SetAutoRefresh"}) {
         failing->FailOperation(_bstr_t(operation), E_FAIL);
         Select({2});

@@ -8,7 +8,7 @@ namespace {
 using GenericHost = PaneTest;
 
 TEST_F(GenericHost, ShowsThePagesAndFollowsItsSize) {
-    const HWND window = MakeSystemContainer(220, 400);
+    const HWND window = MakeSystemContainer(paneSize.cx, paneSize.cy);
     ASSERT_NE(window, nullptr);
     ComPtr<IUnknown> container;
     ASSERT_EQ(AttachToSystemContainer(pane.Get(), window, &container), S_OK);
@@ -19,7 +19,7 @@ TEST_F(GenericHost, ShowsThePagesAndFollowsItsSize) {
     EXPECT_EQ(CallCount(host.Get(), L"DrawCurrentPage"), 8);
     EXPECT_EQ(PixelAt(6, 60), RGB(127, 127, 127));
 
-    SetWindowPos(window, nullptr, 0, 0, 420, 400, SWP_NOMOVE | SWP_NOZORDER);
+    SetWindowPos(window, nullptr, 0, 0, paneSize.cx + 200, 400, SWP_NOMOVE | SWP_NOZORDER);
     PumpMessages();
     RECT client{};
     GetClientRect(PaneWindow(), &client);

@@ -1,5 +1,6 @@
 // What is on the screen, and what it costs the host.
 #include "pane_fixture.h"
+#include "tests/support/resolution.h"
 
 #include <set>
 
@@ -92,10 +93,10 @@ TEST_F(Painting, DrawsWithoutAWindowScaledToTheContainersBounds) {
     ASSERT_EQ(pane.As(&view), S_OK);
     const HDC screen = GetDC(nullptr);
     const HDC dc = CreateCompatibleDC(screen);
-    const HBITMAP bitmap = CreateCompatibleBitmap(screen, 400, 400);
+    const HBITMAP bitmap = CreateCompatibleBitmap(screen, 2 * Scaled(200), 2 * Scaled(200));
     const HGDIOBJ before = SelectObject(dc, bitmap);
-    // Its extent of 5080 is 192 pixels: twice as large here.
-    const RECTL bounds{0, 0, 384, 384};
+    // Its extent of 5080 is two inches: twice as large here.
+    const RECTL bounds{0, 0, 2 * Scaled(192), 2 * Scaled(192)};
     EXPECT_EQ(view->Draw(DVASPECT_CONTENT, -1, nullptr, nullptr, nullptr, dc, &bounds, nullptr, nullptr, 0),
               S_OK);
     EXPECT_EQ(CallCount(host.Get(), L"DrawCurrentPage"), 3);

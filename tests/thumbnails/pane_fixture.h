@@ -14,7 +14,9 @@ namespace qz {
 
 class PaneTest : public ::testing::Test {
   protected:
-    static constexpr SIZE paneSize{220, 400};
+    /// Two thumbnails a row: pictures have the same pixels at every resolution, scroll bars have not.
+    static SIZE PaneSize() noexcept { return {203 + GetSystemMetrics(SM_CXVSCROLL), 400}; }
+    const SIZE paneSize = PaneSize();
 
     PaneTest();
     ~PaneTest() override;
