@@ -222,7 +222,7 @@ TEST_F(StatusFields, ActivatedAgainAndAgainLeavesNothingBehind) {
     ASSERT_EQ(bar->Initialize(host.Get()), S_OK);
     const auto activate = [&](int times) {
         for (int i = 0; i < times; ++i) {
-            window = std::make_unique<PaneWindow>(bar.Get(), wide);
+            window = std::make_unique<PaneWindow>(bar.Get(), Wide());
             window.reset();
         }
         return HeapBlocksInUse();
