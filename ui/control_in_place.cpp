@@ -132,7 +132,9 @@ void Control::EnterPlace(IOleInPlaceSite* site) {
 
 /// A failure says that the container does not want it.
 HRESULT Control::ActivateUserInterface() {
-    if (!window_.Handle() || leaving_) return OLE_E_NOT_INPLACEACTIVE;
+    // A window that is going has messages of the focus left, when its place is none of the control's any
+    // more.
+    if (!inPlaceActive_ || !window_.Handle() || leaving_) return OLE_E_NOT_INPLACEACTIVE;
     if (!uiActive_) {
         const std::wstring title = Title();
         const unsigned stage = stage_;
@@ -179,6 +181,7 @@ void Control::LeaveInPlace() noexcept {
     ComPtr<IOleInPlaceSite> site;
     {
         const FlagScope leaving(leaving_);
+        TellFocus(false);  // the window loses it, if at all, when the site is to hear nothing any more
         LeaveUserInterface();
         site = std::exchange(inPlaceSite_, nullptr);
         frame_.Reset();

@@ -16,8 +16,10 @@ std::optional<LRESULT> Control::HandleMessage(UINT message, WPARAM wParam, LPARA
     return HandleDefault(message, wParam, lParam);
 }
 
-/// What must happen whatever the derived control does with the message.
+/// What must happen whatever the derived control does with the message. A control that has left its place
+/// calls the site no more, whatever its window hears while it goes.
 void Control::Anticipate(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (!inPlaceActive_) return;
     switch (message) {
         case WM_CREATE:
             return OnWindowCreated();
@@ -56,7 +58,7 @@ void Control::OnChildFocus(bool got, HWND other) {
 std::optional<LRESULT> Control::HandleDefault(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
         case WM_SETFOCUS:
-            if (const HWND child = FocusChild()) SetFocus(child);
+            if (const HWND child = inPlaceActive_ ? FocusChild() : nullptr) SetFocus(child);
             return {};
         case WM_ERASEBKGND:
             return 1;  // OnDraw fills the background

@@ -34,6 +34,7 @@ class ControlSite final
     DWORD lastModifiers = 0;
 
     bool Saw(const std::string& name) const { return Count(name) > 0; }
+    bool SawNothing() const { return log_.empty(); }
     long Count(const std::string& name) const;
     /// Where the call comes in the order of all logged calls; -1 when there was none.
     long IndexOf(const std::string& name) const;

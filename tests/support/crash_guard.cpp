@@ -1,100 +1,125 @@
 #include "tests/support/crash_guard.h"
 
+#include "tests/support/backtrace.h"
+
 #include <windows.h>
 
+#include <atomic>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
-#include <cstring>
-#include <cwchar>
 
 namespace qz {
 namespace {
 
-constexpr int crashExitCode = 99;
-constexpr int maxFrames = 48;
+constexpr UINT crashExitCode = 99;
+constexpr ULONG stackForReport = 256 * 1024;
 
-// The address that the module's file asks for; the loader overwrites the one in memory.
-DWORD64 PreferredBase(const wchar_t* path) {
-    HANDLE file = CreateFileW(path, GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
-    if (file == INVALID_HANDLE_VALUE) return 0;
-    char headers[1024] = {};
-    DWORD size = 0;
-    const bool read = ReadFile(file, headers, sizeof headers, &size, nullptr) != 0;
-    CloseHandle(file);
-    IMAGE_DOS_HEADER dos;
-    std::memcpy(&dos, headers, sizeof dos);
-    IMAGE_NT_HEADERS64 nt;
-    if (!read || dos.e_lfanew < 0 || dos.e_lfanew + sizeof nt > size) return 0;
-    std::memcpy(&nt, headers + dos.e_lfanew, sizeof nt);
-    return nt.OptionalHeader.ImageBase;
-}
-
-// One line: the module and the address as the linker gave it, ready for addr2line.
-void PrintFrame(int frame, DWORD64 address) {
-    HMODULE module = nullptr;
-    wchar_t path[MAX_PATH] = L"?";
-    GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
-                       reinterpret_cast<const wchar_t*>(address), &module);
-    if (module && GetModuleFileNameW(module, path, MAX_PATH))
-        address = address - reinterpret_cast<DWORD64>(module) + PreferredBase(path);
-    const wchar_t* name = std::wcsrchr(path, L'\\');
-    std::fprintf(stderr, "  #%d %ls 0x%llx\n", frame, name ? name + 1 : path, address);
-}
-
-// A function without unwind data leaves its return address on top of the stack. False at the end of the
-// stack.
-bool UnwindLeaf(CONTEXT& context) {
-    DWORD64 caller = 0;
-    if (!ReadProcessMemory(GetCurrentProcess(), reinterpret_cast<void*>(context.Rsp), &caller, sizeof caller,
-                           nullptr))
-        return false;
-    context.Rip = caller;
-    context.Rsp += sizeof caller;
-    return true;
-}
-
-bool Unwind(CONTEXT& context) {
-    DWORD64 base = 0;
-    auto* entry = RtlLookupFunctionEntry(context.Rip, &base, nullptr);
-    if (!entry) return UnwindLeaf(context);
-    void* handlerData = nullptr;
-    DWORD64 establisher = 0;
-    RtlVirtualUnwind(UNW_FLAG_NHANDLER, base, context.Rip, entry, &context, &handlerData, &establisher,
-                     nullptr);
-    return true;
-}
-
-[[noreturn]] void EndWithBacktrace(CONTEXT context) {
-    for (int frame = 0; frame < maxFrames; ++frame) {
-        // A return address is that of the next statement: step back into the call.
-        PrintFrame(frame, frame == 0 ? context.Rip : context.Rip - 1);
-        if (!Unwind(context) || context.Rip == 0) break;
+// Exceptions that are faults of the program. All others are somebody's way of telling something, such as
+// those of C++ and of a debugger's output.
+const char* FaultName(DWORD code) {
+    switch (code) {
+        case EXCEPTION_ACCESS_VIOLATION:
+            return "access violation";
+        case EXCEPTION_STACK_OVERFLOW:
+            return "stack overflow";
+        case EXCEPTION_ILLEGAL_INSTRUCTION:  // traps of checks that the compiler adds too
+        case EXCEPTION_PRIV_INSTRUCTION:
+            return "illegal instruction";
+        case EXCEPTION_INT_DIVIDE_BY_ZERO:
+        case EXCEPTION_INT_OVERFLOW:
+            return "division by zero or overflow";
+        case EXCEPTION_DATATYPE_MISALIGNMENT:
+        case EXCEPTION_ARRAY_BOUNDS_EXCEEDED:
+        case EXCEPTION_IN_PAGE_ERROR:
+            return "bad access";
+        case 0xC0000374:
+            return "damaged heap";
+        default:
+            return nullptr;
     }
-    std::fprintf(stderr, "(x86_64-w64-mingw32-addr2line -Cfpe <module> <address>... names the lines)\n");
+}
+
+/// One report only: a fault while it is made ends the process at once, and other threads' faults wait for
+/// that.
+void BeginReport() {
+    static std::atomic<DWORD> reporting = 0;
+    DWORD nobody = 0;
+    if (reporting.compare_exchange_strong(nobody, GetCurrentThreadId())) return;
+    if (nobody != GetCurrentThreadId()) Sleep(INFINITE);
+    TerminateProcess(GetCurrentProcess(), crashExitCode);
+}
+
+[[noreturn]] void EndWithBacktrace(const CONTEXT& context) {
+    PrintBacktrace(context);
     std::fflush(nullptr);
     TerminateProcess(GetCurrentProcess(), crashExitCode);
     std::abort();
 }
 
+// Before anybody else sees it.
+LONG WINAPI OnException(EXCEPTION_POINTERS* info) {
+    const EXCEPTION_RECORD& record = *info->ExceptionRecord;
+    const char* const fault = FaultName(record.ExceptionCode);
+    // Nothing goes on after an overflow of the stack.
+    const bool overflow = record.ExceptionCode == EXCEPTION_STACK_OVERFLOW;
+    if (!fault || (!overflow && SystemMayHandle(*info->ContextRecord))) return EXCEPTION_CONTINUE_SEARCH;
+    BeginReport();
+    PrintError("crash: %s (0x%08lx)", fault, record.ExceptionCode);
+    if (record.ExceptionCode == EXCEPTION_ACCESS_VIOLATION && record.NumberParameters > 1)
+        PrintError(record.ExceptionInformation[0] == 1 ? ", writing 0x%llx" : ", reading 0x%llx",
+                   record.ExceptionInformation[1]);
+    PrintError("\n");
+    EndWithBacktrace(*info->ContextRecord);
+}
+
 LONG WINAPI OnUnhandledException(EXCEPTION_POINTERS* info) {
-    std::fprintf(stderr, "unhandled exception 0x%08lx\n", info->ExceptionRecord->ExceptionCode);
+    BeginReport();
+    PrintError("unhandled exception 0x%08lx\n", info->ExceptionRecord->ExceptionCode);
     EndWithBacktrace(*info->ContextRecord);
 }
 
 void OnAbort(int) {
-    std::fprintf(stderr, "aborted\n");
+    BeginReport();
+    PrintError("aborted\n");
     CONTEXT context;
     RtlCaptureContext(&context);
     EndWithBacktrace(context);
+}
+
+// Wine commits a main thread's stack as a whole and leaves its guard page at the very end, where there is no
+// room to call anybody; natively that part is only reserved yet, and the system keeps to the guarantee by
+// itself.
+void ReserveStack() {
+    ULONG reserved = stackForReport;
+    SetThreadStackGuarantee(&reserved);
+    MEMORY_BASIC_INFORMATION stack{};
+    VirtualQuery(&stack, &stack, sizeof stack);
+    char* const guard = static_cast<char*>(stack.AllocationBase) + stackForReport;
+    MEMORY_BASIC_INFORMATION page{};
+    VirtualQuery(guard, &page, sizeof page);
+    DWORD before = 0;
+    if (page.State == MEM_COMMIT) VirtualProtect(guard, 4096, PAGE_READWRITE | PAGE_GUARD, &before);
 }
 
 }  // namespace
 
 void InstallCrashGuard() {
     SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOGPFAULTERRORBOX);
+    ReserveStack();
+    AddVectoredExceptionHandler(1, OnException);
     SetUnhandledExceptionFilter(OnUnhandledException);
     std::signal(SIGABRT, OnAbort);
+}
+
+void EndStuckProgram(HANDLE thread, const char* what) {
+    BeginReport();
+    PrintError("stuck: %s\n", what);
+    CONTEXT context{};
+    context.ContextFlags = CONTEXT_FULL;
+    SuspendThread(thread);
+    GetThreadContext(thread, &context);
+    EndWithBacktrace(context);
 }
 
 }  // namespace qz
