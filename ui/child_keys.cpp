@@ -1,5 +1,7 @@
 #include "ui/child_keys.h"
 
+#include "ui/dialog_keyboard.h"
+
 #include <algorithm>
 
 namespace qz {
@@ -7,10 +9,6 @@ namespace qz {
 namespace {
 
 bool IsKeyPress(UINT message) noexcept { return message == WM_KEYDOWN || message == WM_SYSKEYDOWN; }
-
-bool IsDialog(HWND window) noexcept {
-    return GetClassLongPtrW(window, GCW_ATOM) == reinterpret_cast<ULONG_PTR>(WC_DIALOG);
-}
 
 }  // namespace
 

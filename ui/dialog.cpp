@@ -144,7 +144,7 @@ void Dialog::ForgetNames() noexcept {
 
 void Dialog::PlaceItem(int id, const RECT& bounds) const noexcept {
     const HWND item = Item(id);
-    ShowWindow(item, IsRectEmpty(&bounds) ? SW_HIDE : SW_SHOWNA);
+    ShowChild(item, !IsRectEmpty(&bounds));
     SetWindowPos(item, nullptr, bounds.left, bounds.top, bounds.right - bounds.left,
                  bounds.bottom - bounds.top, SWP_NOZORDER | SWP_NOACTIVATE);
 }

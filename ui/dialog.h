@@ -4,6 +4,7 @@
 #include "com/object.h"
 #include "res/language.h"
 #include "ui/activation.h"
+#include "ui/dialog_keyboard.h"
 #include "ui/modal_loop.h"
 
 #include <windows.h>
@@ -68,7 +69,7 @@ class Dialog : public std::enable_shared_from_this<Dialog> {
     void SetItemText(int id, const std::wstring& text) const noexcept;
     /// Names a control within the dialog for assistive tools, as long as the dialog is there.
     void NameControl(HWND control, const std::wstring& name);
-    void EnableItem(int id, bool enabled) const noexcept { EnableWindow(Item(id), enabled); }
+    void EnableItem(int id, bool enabled) const noexcept { EnableChild(Item(id), enabled); }
     /// Moves a control, in client pixels of the dialog; one without room is hidden.
     void PlaceItem(int id, const RECT& bounds) const noexcept;
     /// Where a control lies, in client pixels of the dialog.

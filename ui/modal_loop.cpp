@@ -1,6 +1,7 @@
 #include "ui/modal_loop.h"
 
 #include "com/error.h"
+#include "ui/dialog_keyboard.h"
 
 #include <utility>
 
@@ -32,7 +33,7 @@ INT_PTR ModalLoop::Run(HWND dialog) {
 }
 
 void ModalLoop::Handle(HWND dialog, MSG& message) {
-    if (IsDialogMessageW(dialog, &message)) return;
+    if (HandleDialogMessage(dialog, message)) return;
     TranslateMessage(&message);
     DispatchMessageW(&message);
 }

@@ -1,6 +1,7 @@
 #include "ui/modeless_keyboard.h"
 
 #include "com/error.h"
+#include "ui/dialog_keyboard.h"
 
 namespace qz {
 
@@ -43,7 +44,7 @@ LRESULT CALLBACK ModelessKeyboard::OnMessage(int code, WPARAM removed, LPARAM lP
         for (ModelessKeyboard* each = first; each; each = each->next_) {
             const HWND dialog = each->dialog_;
             if (message->hwnd != dialog && !IsChild(dialog, message->hwnd)) continue;
-            if (IsDialogMessageW(dialog, message)) message->message = WM_NULL;
+            if (HandleDialogMessage(dialog, *message)) message->message = WM_NULL;
             break;  // the list may be another one by now
         }
     }

@@ -2,6 +2,7 @@
 
 #include "res/dialog_ids.h"
 #include "ui/dialog.h"
+#include "ui/dialog_keyboard.h"
 
 #include <commctrl.h>
 
@@ -112,7 +113,7 @@ void Progress::HandleMessages() noexcept {
             ended_ = true;
             return;
         }
-        if (IsDialogMessageW(window_->Handle(), &message)) continue;
+        if (HandleDialogMessage(window_->Handle(), message)) continue;
         TranslateMessage(&message);
         DispatchMessageW(&message);
     }

@@ -70,8 +70,9 @@ std::size_t DocSettingsWindow::ChosenTab() const noexcept {
 
 void DocSettingsWindow::ShowTab(std::size_t tab) const {
     SendItem(QZ_DOCUMENT_TABS, TCM_SETCURSEL, tab);
+    ShowChild(tabs_[tab]->Handle(), true);
     for (std::size_t each = 0; each < tabCount; ++each) {
-        ShowWindow(tabs_[each]->Handle(), each == tab ? SW_SHOW : SW_HIDE);
+        if (each != tab) ShowChild(tabs_[each]->Handle(), false);
     }
 }
 
@@ -93,7 +94,7 @@ void DocSettingsWindow::OnKey(HWND control, UINT, WPARAM key) {
     const std::size_t tab = (ChosenTab() + (back ? tabCount - 1 : 1)) % tabCount;
     ShowTab(tab);
     if (GetParent(control) == Handle()) return;  // the strip and the buttons keep the focus
-    if (const HWND first = GetNextDlgTabItem(tabs_[tab]->Handle(), nullptr, FALSE)) SetFocus(first);
+    if (const HWND first = FindTabStops(tabs_[tab]->Handle()).first) SetFocus(first);
 }
 
 bool DocSettingsWindow::OnCommand(int id, int) {

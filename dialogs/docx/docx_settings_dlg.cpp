@@ -159,9 +159,9 @@ class DocxDialog final : public RecordDialog {
     void ShowPage(std::size_t page) const noexcept {
         SendItem(QZ_DOCX_SECTIONS, LB_SETCURSEL, page);
         for (const Row& row : rows_) {
-            const int show = DocxPageOf(*row.field) == page ? SW_SHOWNA : SW_HIDE;
+            const bool shown = DocxPageOf(*row.field) == page;
             for (const HWND window : {row.label, row.entry, row.button}) {
-                if (window) ShowWindow(window, show);
+                if (window) ShowChild(window, shown);
             }
         }
     }
@@ -176,7 +176,7 @@ class DocxDialog final : public RecordDialog {
         for (const Row& row : rows_) {
             const bool enabled = HasMeaning(*row.field);
             for (const HWND window : {row.label, row.entry, row.button}) {
-                if (window) EnableWindow(window, enabled);
+                if (window) EnableChild(window, enabled);
             }
         }
     }

@@ -145,7 +145,7 @@ class NUpDialog final : public RecordDialog {
         else if (bounds.top >= gone.bottom)
             OffsetRect(&bounds, 0, -height);
         else if (bounds.top >= gone.top && bounds.left < gone.right)
-            ShowWindow(child, SW_HIDE);
+            ShowChild(child, false);
         SetWindowPos(child, nullptr, bounds.left, bounds.top, bounds.right - bounds.left,
                      bounds.bottom - bounds.top, SWP_NOZORDER | SWP_NOACTIVATE);
     }

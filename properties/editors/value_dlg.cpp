@@ -52,7 +52,7 @@ void CValueDlg::DisableAll() const noexcept {
         if (isEdit)
             SendMessageW(child, EM_SETREADONLY, TRUE, 0);
         else
-            EnableWindow(child, FALSE);
+            EnableChild(child, false);
     }
 }
 

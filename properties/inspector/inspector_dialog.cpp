@@ -133,21 +133,14 @@ InspectorMetrics InspectorDialog::Metrics(SIZE client) const {
     return metrics;
 }
 
-void InspectorDialog::Place(int id, const Rect& bounds) const noexcept {
-    const HWND item = Item(id);
-    ShowWindow(item, bounds.Empty() ? SW_HIDE : SW_SHOWNA);
-    SetWindowPos(item, nullptr, bounds.left, bounds.top, bounds.Width(), bounds.Height(),
-                 SWP_NOZORDER | SWP_NOACTIVATE);
-}
-
 void InspectorDialog::Arrange(SIZE client) {
     client_ = client;
     SetWindowPos(Handle(), nullptr, 0, 0, client.cx, client.cy, SWP_NOZORDER | SWP_NOACTIVATE);
     places_ = ArrangeInspector(Metrics(client));
-    Place(QZ_INSPECTOR_TABS, places_.tabs);
-    Place(QZ_INSPECTOR_LIST, places_.list);
-    Place(QZ_INSPECTOR_DESCRIPTION, places_.description);
-    Place(QZ_INSPECTOR_VALUE, places_.value);
+    PlaceItem(QZ_INSPECTOR_TABS, ToPlatform(places_.tabs));
+    PlaceItem(QZ_INSPECTOR_LIST, ToPlatform(places_.list));
+    PlaceItem(QZ_INSPECTOR_DESCRIPTION, ToPlatform(places_.description));
+    PlaceItem(QZ_INSPECTOR_VALUE, ToPlatform(places_.value));
 }
 
 RECT InspectorDialog::EditorBounds() const noexcept { return ToPlatform(places_.editor); }

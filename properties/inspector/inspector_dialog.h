@@ -80,7 +80,6 @@ class InspectorDialog final : public Dialog, private ChildKeyListener {
     void InsertTabs(std::span<const wchar_t> codes);
     std::wstring EntryText(WPARAM entry) const;
     InspectorMetrics Metrics(SIZE client) const;
-    void Place(int id, const Rect& bounds) const noexcept;
 
     InspectorDialogListener& listener_;
     ChildWindow list_;  ///< The way past those who look at the list's messages.

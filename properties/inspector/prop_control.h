@@ -105,6 +105,8 @@ class PropControl final
     void MakeDialog();
     void ShowDialog(bool shown);
     HWND DialogWindow() const noexcept { return dialog_ ? dialog_->Handle() : nullptr; }
+    /// The inner dialog is hidden without one.
+    bool ShowsObject() const noexcept { return object_ && Host(); }
 
     PaneEvents events_;
     std::shared_ptr<HostMembers> members_;

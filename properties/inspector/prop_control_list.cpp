@@ -70,12 +70,12 @@ EditorChoice ChooseEditorOf(const EditedAttribute& edited) {
 void PropControl::ShowObject() {
     if (!DialogWindow()) return;
     const unsigned stage = objectStage_;
-    ShowDialog(object_ && Host());
+    ShowDialog(ShowsObject());
     if (stage != objectStage_ || !DialogWindow()) return;  // the container was told of the focus
     Invalidate();
     ListRefill refill(dialog_);
     dialog_->SetDescription({});
-    if (!object_ || !Host()) return dialog_->RemoveTabs();
+    if (!ShowsObject()) return dialog_->RemoveTabs();
     std::vector<AttributeRow> rows;
     const HRESULT read = Guard(IID_NULL, [&] { rows = ReadRows(); });
     if (stage != objectStage_ || !DialogWindow() || !object_) return;
@@ -187,7 +187,7 @@ void PropControl::PlaceEditor() {
     SetWindowPos(editor_->Handle(), dialog_->BeforeEditor(), bounds.left, bounds.top,
                  bounds.right - bounds.left, bounds.bottom - bounds.top, SWP_NOACTIVATE);
     // Without room it is out of the keyboard's way too.
-    ShowWindow(editor_->Handle(), IsRectEmpty(&bounds) ? SW_HIDE : SW_SHOWNA);
+    ShowChild(editor_->Handle(), !IsRectEmpty(&bounds));
 }
 
 /// What waits in the editor is written first. That may run anything: look again at all afterwards.

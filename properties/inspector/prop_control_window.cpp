@@ -28,9 +28,6 @@ void PropControl::OnDraw(HDC dc, const RECT& bounds) {
 
 void PropControl::OnWindowCreated() {
     RegisterTextEdits();
-    // Containers that are dialogs find the way to the controls inside.
-    const LONG_PTR style = GetWindowLongPtrW(WindowHandle(), GWL_EXSTYLE);
-    SetWindowLongPtrW(WindowHandle(), GWL_EXSTYLE, style | WS_EX_CONTROLPARENT);
     MakeDialog();
 }
 
@@ -51,16 +48,18 @@ void PropControl::MakeDialog() {
 void PropControl::ShowDialog(bool shown) {
     const std::shared_ptr<InspectorDialog> dialog = dialog_;
     if (shown) {
-        ShowWindow(dialog->Handle(), SW_SHOWNA);
+        ShowChild(dialog->Handle(), true);
+        FitControlParent(WindowHandle());
         const int part = std::exchange(focusedPart_, 0);
         if (GetFocus() == WindowHandle()) dialog->FocusPart(part ? part : QZ_INSPECTOR_LIST);
     } else {
         if (const int part = dialog->FocusedPart()) {
             focusedPart_ = part;
             SetFocus(WindowHandle());
-            if (object_ && Host()) return;  // the container was told, and has set another object
+            if (ShowsObject()) return;  // the container was told, and has set another object
         }
-        ShowWindow(dialog->Handle(), SW_HIDE);
+        ShowChild(dialog->Handle(), false);
+        FitControlParent(WindowHandle());
     }
 }
 
@@ -69,22 +68,21 @@ void PropControl::OnSized(SIZE client) {
     if (!DialogWindow()) return;
     dialog_->Arrange(client);
     PlaceEditor();
+    FitControlParent(WindowHandle());
     RedrawWindow(WindowHandle(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
 
 HWND PropControl::FocusChild() const noexcept {
-    return object_ && DialogWindow() && IsWindowVisible(DialogWindow()) ? dialog_->List() : nullptr;
+    return ShowsObject() && DialogWindow() && IsWindowVisible(DialogWindow()) ? dialog_->List() : nullptr;
 }
 
 HWND PropControl::TabTarget(bool backwards) const {
     const HWND dialog = DialogWindow();
-    if (!dialog || !IsWindowVisible(dialog)) return nullptr;
-    const HWND first = GetNextDlgTabItem(dialog, nullptr, FALSE);
+    if (!dialog || !ShowsObject()) return nullptr;
     const HWND focus = GetFocus();
-    if (!focus || !IsChild(dialog, focus)) return backwards ? GetNextDlgTabItem(dialog, first, TRUE) : first;
-    const HWND next = GetNextDlgTabItem(dialog, focus, backwards);
-    const bool leaves = backwards ? focus == first : next == first;
-    return leaves ? nullptr : next;
+    const TabStops stops = FindTabStops(dialog, focus);
+    if (!focus || !IsChild(dialog, focus)) return backwards ? stops.last : stops.first;
+    return backwards ? stops.before : stops.after;
 }
 
 bool PropControl::IsInputKey(const MSG& message) const {
