@@ -151,6 +151,7 @@ TEST_P(EditorMonkey, EditableAndReadOnly) {
         Add(L"Fixed", 2, edited);
     }
     bool fixed = false;
+    monkey.TakePart(4);
     monkey.distraction = [&] {
         Choose(std::exchange(fixed, !fixed) && edited.type ? L"Fixed" : edited.name);
     };

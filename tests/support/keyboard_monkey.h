@@ -24,6 +24,8 @@ class KeyboardMonkey {
     KeyboardMonkey(const KeyboardMonkey&) = delete;
     KeyboardMonkey& operator=(const KeyboardMonkey&) = delete;
 
+    /// One of several that play with the same dialog presses its part of the keys.
+    void TakePart(long of) { keysLeft_ = keysLeft_ / of; }
     /// Opens the dialog until all keys are pressed. `open` returns when the dialog has been closed.
     void Play(const std::function<void()>& open);
     /// Does something else between two keys, now and then.
