@@ -11,6 +11,7 @@
 namespace qz {
 
 inline constexpr wchar_t documentPath[] = L"Document";
+inline constexpr wchar_t informationPath[] = L"DocInfo";
 
 /// "Pages[n]" for a 1-based page number, in a buffer of its own: no allocation.
 class PagePath {

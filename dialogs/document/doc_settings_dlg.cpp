@@ -1,8 +1,9 @@
 #include "dialogs/document/doc_settings_dlg.h"
 
 #include "dialogs/document/doc_settings_window.h"
-#include "host/bstr.h"
+#include "host/host_calls.h"
 #include "host/host_language.h"
+#include "host/object_path.h"
 #include "ui/parent_window.h"
 #include "ui/text_edit.h"
 
@@ -10,17 +11,11 @@ namespace qz {
 
 namespace {
 
-/// Null when the host gives none: the tabs then say so.
-ComPtr<IDispatch> DocumentOf(IVandraX* host) {
-    ComPtr<IDispatch> document;
-    if (FAILED(host->GetObjectByPath(Bstr(L"Document").Get(), &document))) return nullptr;
-    return document;
-}
-
 void RunDialog(const ComPtr<IVandraX>& host, HWND parent) {
     RegisterTextEdits();
     const Language language = LanguageOf(host.Get());
-    const SettingsSource source{host, DocumentOf(host.Get())};
+    const SettingsSource source{host,
+                                FindObject(host.Get(), documentPath)};  // without a document the tabs say so
     MakeDialog<DocSettingsWindow>(source, language)->RunModal(parent);
 }
 

@@ -3,6 +3,8 @@
 #include "dialogs/document/entered_text.h"
 #include "dialogs/document/list_columns.h"
 #include "host/attributes.h"
+#include "host/host_calls.h"
+#include "host/object_path.h"
 #include "host/text_variant.h"
 #include "res/dialog_ids.h"
 #include "res/text_ids.h"
@@ -49,8 +51,8 @@ void CDocSettingsDlgTab1::ShowText(std::size_t field, const std::wstring& text) 
 /// A document may be without further information.
 void CDocSettingsDlgTab1::ListFurther() {
     SendItem(QZ_INFO_FURTHER, LVM_DELETEALLITEMS);
-    ComPtr<IDispatch> information;
-    if (FAILED(Source().host->GetObjectByPath(Bstr(L"DocInfo").Get(), &information)) || !information) return;
+    const ComPtr<IDispatch> information = FindObject(Source().host.Get(), informationPath);
+    if (!information) return;
     HostAttributes members;
     ForEachItem(Objects().Attributes(information.Get()).Get(), [&](const VARIANT& item) {
         const ComPtr<IDispatch> attribute = RequireAttribute(item);

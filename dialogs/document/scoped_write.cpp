@@ -1,5 +1,6 @@
 #include "dialogs/document/scoped_write.h"
 
+#include "host/object_path.h"
 #include "host/text_variant.h"
 
 namespace qz {
@@ -24,7 +25,7 @@ ScopedWriter::ScopedWriter(IDispatch* host, IDispatch* document, HostObjects& ob
 
 void ScopedWriter::Write(std::wstring_view attribute, const _variant_t& value) {
     if (scope_ == PageScope::All) return objects_.SetAttribute(document_.Get(), attribute, value);
-    scoped_.Call(host_.Get(), {TextVariant(L"Document"), TextVariant(attribute), value,
+    scoped_.Call(host_.Get(), {TextVariant(documentPath), TextVariant(attribute), value,
                                _variant_t(static_cast<long>(scope_))});
 }
 

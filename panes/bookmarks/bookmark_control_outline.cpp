@@ -2,6 +2,7 @@
 #include "panes/bookmarks/bookmark_control.h"
 
 #include "host/auto_refresh.h"
+#include "host/host_calls.h"
 #include "res/strings.h"
 #include "res/text_ids.h"
 #include "ui/progress.h"
@@ -14,10 +15,6 @@ namespace qz {
 namespace {
 
 constexpr DISPID sizeToZero = 2;
-
-/// What changed in the host that concerns the pane.
-constexpr long modeChanged = 0x1;
-constexpr long outlineChanged = 0x8000;
 
 [[noreturn]] void ThrowReplaced() { Throw(E_FAIL, L"The outline was replaced while it was being read"); }
 
@@ -117,15 +114,12 @@ void BookmarkControl::ForgetDocument() {
 
 void BookmarkControl::FollowHost() {
     const ComPtr<IVandraX> host = Host();
-    long flags = 0;
-    long mode = 0;
-    ThrowIfFailed(host->GetChangeFlags(&flags), L"The host does not tell what changed");
-    if (flags & modeChanged) {
-        ThrowIfFailed(host->GetDocumentMode(&mode), L"The host does not tell its mode");
-    }
+    const ChangeFlags changes = ChangesOf(host.Get());
+    const bool modeChanged = changes.Any(change::mode);
+    const long mode = modeChanged ? ModeOf(host.Get()) : 0;
     if (!SameObject(Host(), host)) return;  // another one was attached meanwhile, and read
-    if (flags & modeChanged) documentMode_ = mode;
-    if (flags & outlineChanged) Rebuild(oneLevel);
+    if (modeChanged) documentMode_ = mode;
+    if (changes.Any(change::outline)) Rebuild(oneLevel);
 }
 
 // Rebuilding
@@ -167,10 +161,9 @@ HRESULT BookmarkControl::ReadOutline(const ComPtr<IVandraX>& host, const Outline
     tree_.Clear();
     const BookmarkReader reader = MakeReader(host);
     long state = 0;
-    long mode = 0;
     ComPtr<IDispatch> root;
     ThrowIfFailed(host->GetBookmarkState(&state), L"The host does not tell the state of its bookmarks");
-    ThrowIfFailed(host->GetDocumentMode(&mode), L"The host does not tell its mode");
+    const long mode = ModeOf(host.Get());
     ThrowIfFailed(host->GetBookmarks(&root), L"The host does not give its bookmarks");
     if (!root) Throw(E_FAIL, L"The host has no outline");
     if (!reader.Valid()) ThrowReplaced();

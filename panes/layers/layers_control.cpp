@@ -2,6 +2,7 @@
 #include "panes/layers/layers_control.h"
 
 #include "host/auto_refresh.h"
+#include "host/host_calls.h"
 #include "panes/common/fit_to_parent.h"
 
 namespace qz {
@@ -10,17 +11,10 @@ namespace {
 
 constexpr IID iid = __uuidof(IqzLayersCtrl);
 
-/// The bits of the host's change flags that matter here.
-struct HostChange {
-    std::uint32_t flags;
-
-    /// Nothing but that the view moved.
-    constexpr bool Ignored() const noexcept { return flags == 0x40; }
-    /// Attributes or document settings were written: names may be other ones.
-    constexpr bool Names() const noexcept { return flags == 0 || (flags & 0x680) != 0; }
-    /// Another page is current, or other content is on it.
-    constexpr bool Page() const noexcept { return flags == 0 || (flags & 0xB0) != 0; }
-};
+/// With one of these names may be other ones.
+constexpr std::uint32_t namesChanged = change::pages | change::documentSettings | change::attribute;
+/// With one of these another page is current, or other content is on it.
+constexpr std::uint32_t pageChanged = change::objects | change::currentPage | change::pages;
 
 constexpr bool DependsOnPage(long listLayers) noexcept {
     return listLayers == qzLayersCtrlListLayers_ForVisiblePages ||
@@ -178,15 +172,13 @@ bool LayersControl::StillShows(const ComPtr<IVandraX>& host, unsigned generation
 void LayersControl::FollowHost() {
     const ComPtr<IVandraX> host = Host();
     const OwnHostCalls ours(*this);
-    long flags = 0;
-    ThrowIfFailed(host->GetChangeFlags(&flags), L"The host does not tell what changed");
-    const HostChange change{static_cast<std::uint32_t>(flags)};
-    if (change.Ignored()) return;
+    const ChangeFlags changes = ChangesOf(host.Get());
+    if (changes.OnlyView()) return;
     const LayerTexts texts = ReadLayerTexts(host.Get());
     if (!SameObject(Host(), host)) return;
     if (texts != texts_) return Rebuild();
-    ReadStates(host, change.Names());
-    if (change.Page() && DependsOnPage(listLayers_)) List();
+    ReadStates(host, changes.AnyOrUntold(namesChanged));
+    if (changes.AnyOrUntold(pageChanged) && DependsOnPage(listLayers_)) List();
 }
 
 /// What the user chose stays; a layer that is gone lets everything be read anew.
@@ -226,8 +218,7 @@ void LayersControl::ReadStates(const ComPtr<IVandraX>& host, bool names) {
 
 /// By record. The layers in the view are taken to be those of the current page: no host tells what it shows.
 std::vector<bool> LayersControl::LayersOnPage(IVandraX* host) const {
-    long page = 0;
-    ThrowIfFailed(host->GetCurrentPage(&page), L"The host does not tell its current page");
+    const long page = CurrentPageOf(host);
     const LayerPaths paths = paths_;
     std::vector<bool> listed;
     listed.reserve(paths->size());

@@ -1,7 +1,7 @@
 // The bar's window: drawing, keys, entries, buttons and the menu of units.
 #include "host/attributes.h"
+#include "host/host_calls.h"
 #include "host/object_path.h"
-#include "host/page_count.h"
 #include "panes/common/popup_menu.h"
 #include "panes/status/status_control.h"
 #include "panes/status/status_entry.h"
@@ -218,7 +218,7 @@ void StatusControl::ApplyText(StatusField entry, const std::wstring& text) {
 /// A host that was let go while it was asked for its pages stays where it is.
 void StatusControl::GoToPage(const ComPtr<IVandraX>& host, std::int32_t page) const {
     if (!SameObject(Host(), host)) return;
-    ThrowIfFailed(host->SetCurrentPage(page), L"The host does not go to the page");
+    MakePageCurrent(host.Get(), page);
 }
 
 void StatusControl::Step(PageStep step) {

@@ -1,8 +1,8 @@
 #include "panes/status/status_reader.h"
 
 #include "host/attributes.h"
+#include "host/host_calls.h"
 #include "host/late_bound.h"
-#include "host/page_count.h"
 
 namespace qz {
 
@@ -29,8 +29,7 @@ PageSize ReadCurrentPageSize(IVandraX* host) {
 }
 
 PagePosition ReadPagePosition(IVandraX* host) {
-    long page = 0;
-    ThrowIfFailed(host->GetCurrentPage(&page), L"The host does not tell its current page");
+    const long page = CurrentPageOf(host);
     return {static_cast<std::int32_t>(page), static_cast<std::int32_t>(PageCountOf(host))};
 }
 
@@ -41,11 +40,8 @@ std::int32_t ReadZoom(IVandraX* host) {
 }
 
 ComPtr<IDispatch> ReadSelectedObject(IVandraX* host) {
-    long mode = 0;
-    ThrowIfFailed(host->GetDocumentMode(&mode), L"The host does not tell its mode");
-    if (!SelectsObjects(mode)) return nullptr;
-    _variant_t current;
-    ThrowIfFailed(host->GetCurrentObject(&current), L"The host does not tell the selected object");
+    if (!SelectsObjects(ModeOf(host))) return nullptr;
+    _variant_t current = CurrentObjectOf(host);
     if (HoldsNothing(current)) return nullptr;
     _variant_t object;
     ThrowIfFailed(VariantChangeType(&object, &current, 0, VT_DISPATCH),

@@ -1,20 +1,23 @@
 // What the host's change flags mean for the thumbnails.
 #pragma once
 
-#include <cstdint>
+#include "host/change_flags.h"
 
 namespace qz {
 
-/// The bits of the host's change flags as the thumbnail pane reads them.
+/// A change as the thumbnail pane reads it.
 struct HostChange {
-    std::uint32_t flags;
+    ChangeFlags flags;
 
-    /// The flags say nothing but that the view moved.
-    constexpr bool Ignored() const noexcept { return flags == 0x40; }
+    constexpr bool Ignored() const noexcept { return flags.OnlyView(); }
     /// The current page looks different.
-    constexpr bool PictureChanged() const noexcept { return (flags & 0x5C10) != 0; }
-    /// Pages came, went, moved or changed their size; a host that tells nothing may mean that too.
-    constexpr bool PagesChanged() const noexcept { return flags == 0 || (flags & 0x180) != 0; }
+    constexpr bool PictureChanged() const noexcept {
+        return flags.Any(change::objects | change::attribute | change::picture | change::layers);
+    }
+    /// Pages came, went, moved or changed their size.
+    constexpr bool PagesChanged() const noexcept {
+        return flags.AnyOrUntold(change::pages | change::pageSize);
+    }
 };
 
 }  // namespace qz

@@ -1,6 +1,7 @@
 #include "panes/thumbnails/page_drawing.h"
 
 #include "host/auto_refresh.h"
+#include "host/host_calls.h"
 #include "ui/gdi.h"
 
 #include <string>
@@ -15,7 +16,7 @@ constexpr COLORREF frameColour = RGB(127, 127, 127);
 class CurrentPageScope {
   public:
     CurrentPageScope(IVandraX* host, long saved, long page) : host_(host), saved_(saved) {
-        ThrowIfFailed(host->SetCurrentPage(page), L"The host does not go to the page");
+        MakePageCurrent(host, page);
     }
     ~CurrentPageScope() {
         // The user must not find himself on another page: one failure is not taken as final.
@@ -37,8 +38,7 @@ void DrawFrame(HDC dc, const ThumbnailRecord& record, HGDIOBJ inside) {
 }
 
 void DrawHostPage(HDC dc, IVandraX* host, long page, long factor) {
-    long current = 0;
-    ThrowIfFailed(host->GetCurrentPage(&current), L"The host does not tell its current page");
+    const long current = CurrentPageOf(host);
     const qzVandraAutoRefresh suspended(host);
     const CurrentPageScope there(host, current, page);
     const SavedDc saved(dc);  // whatever the host selects or moves

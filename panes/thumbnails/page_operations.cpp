@@ -1,7 +1,7 @@
 #include "panes/thumbnails/page_operations.h"
 
+#include "host/host_calls.h"
 #include "host/object_path.h"
-#include "host/page_count.h"
 #include "panes/thumbnails/page_formats.h"
 #include "panes/thumbnails/page_numbers.h"
 #include "panes/thumbnails/storage_medium.h"

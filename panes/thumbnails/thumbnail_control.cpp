@@ -1,7 +1,7 @@
 // The pane's members, its tie to the host, and its records.
 #include "panes/thumbnails/thumbnail_control.h"
 
-#include "host/page_count.h"
+#include "host/host_calls.h"
 #include "host/page_sizes.h"
 #include "panes/thumbnails/host_changes.h"
 #include "panes/thumbnails/page_drag.h"
@@ -198,8 +198,7 @@ bool ThumbnailControl::StillShows(const ComPtr<IVandraX>& host, std::uint64_t ge
 void ThumbnailControl::MarkCurrent() {
     const ComPtr<IVandraX> host = Host();
     if (!host) return;
-    long page = 0;
-    ThrowIfFailed(host->GetCurrentPage(&page), L"The host does not tell its current page");
+    const long page = CurrentPageOf(host.Get());
     if (!SameObject(Host(), host)) return;
     model_.MakeCurrent(page >= 1 ? std::optional(static_cast<std::size_t>(page) - 1) : std::nullopt);
     Invalidate();
@@ -211,11 +210,8 @@ void ThumbnailControl::MarkCurrent() {
 /// Reads from the host what changed; that the pages did is known already when the pane itself changed them.
 void ThumbnailControl::Follow(Pages pages) {
     const ComPtr<IVandraX> host = Host();
-    long page = 0;
-    long flags = 0;
-    ThrowIfFailed(host->GetCurrentPage(&page), L"The host does not tell its current page");
-    ThrowIfFailed(host->GetChangeFlags(&flags), L"The host does not tell what changed");
-    const HostChange change{static_cast<std::uint32_t>(flags)};
+    const long page = CurrentPageOf(host.Get());
+    const HostChange change{ChangesOf(host.Get())};
     const bool changed = pages == Pages::Changed;
     if (change.Ignored() && !changed) return;
     const long count = PageCountOf(host.Get());

@@ -1,4 +1,5 @@
 // What the user does with mouse and keyboard, turned into changes of the selection and into commands.
+#include "host/host_calls.h"
 #include "panes/thumbnails/drag_rules.h"
 #include "panes/thumbnails/thumbnail_control.h"
 #include "panes/thumbnails/thumbnail_menu.h"
@@ -261,10 +262,9 @@ void ThumbnailControl::GoToPage(std::size_t index) {
     if (before && *before < model_.Records().size()) InvalidateRecord(*before);
     InvalidateRecord(index);
     const long page = static_cast<long>(index) + 1;
-    long current = 0;
-    ThrowIfFailed(host->GetCurrentPage(&current), L"The host does not tell its current page");
+    const long current = CurrentPageOf(host.Get());
     if (current == page || !SameObject(Host(), host)) return;
-    ThrowIfFailed(host->SetCurrentPage(page), L"The host does not go to the page");
+    MakePageCurrent(host.Get(), page);
 }
 
 // Context menu

@@ -1,6 +1,6 @@
 // What the pane does with the selected pages: delete, cut, copy, paste, drag and drop.
 #include "host/auto_refresh.h"
-#include "host/page_count.h"
+#include "host/host_calls.h"
 #include "panes/thumbnails/drag_rules.h"
 #include "panes/thumbnails/page_clipboard.h"
 #include "panes/thumbnails/page_drag.h"
@@ -12,9 +12,6 @@
 namespace qz {
 
 namespace {
-
-/// The bit of the host's change flags that tells of pages.
-constexpr long pagesChanged = 0x80;
 
 /// Remembers the record that a drag started from for as long as it lasts.
 class DraggedRecordScope {
@@ -127,9 +124,9 @@ void ThumbnailControl::ChangePages(const ComPtr<IVandraX>& host, Change&& change
     } catch (...) {
         failure = std::current_exception();
     }
-    host->UpdateView(pagesChanged, 1);
+    host->UpdateView(change::pages, 1);
     if (SameObject(Host(), host)) FollowOwnChange();
-    host->UpdateView(0, 0);
+    host->UpdateView(change::none, 0);
     if (failure) std::rethrow_exception(failure);
 }
 

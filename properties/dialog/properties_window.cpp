@@ -1,5 +1,6 @@
 #include "properties/dialog/properties_window.h"
 
+#include "host/host_calls.h"
 #include "host/late_bound.h"
 #include "properties/model/window_placement.h"
 #include "res/dialog_ids.h"
@@ -270,8 +271,8 @@ void PropertiesWindow::ShowChosen(const std::wstring& path) {
     ComPtr<IVandraX> vandra;
     if (!host || FAILED(host.As(&vandra))) return;
     LetSelectionGo(host.Get());
-    ComPtr<IDispatch> object;
-    if (path.empty() || FAILED(vandra->GetObjectByPath(_bstr_t(path.c_str()), &object)) || !object) return;
+    const ComPtr<IDispatch> object = path.empty() ? nullptr : FindObject(vandra.Get(), path);
+    if (!object) return;
     state_.object = object;
     LateBoundMember update(L"Update"), refresh(L"Refresh");
     update.Call(object.Get(), {_variant_t(1L)});

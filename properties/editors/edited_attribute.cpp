@@ -2,6 +2,7 @@
 
 #include "host/array_elements.h"
 #include "host/attributes.h"
+#include "host/change_flags.h"
 
 #include "ui/window.h"
 
@@ -11,9 +12,6 @@
 namespace qz {
 
 namespace {
-
-/// What UpdateView is told after attributes were written.
-constexpr long attributesChanged = 1024;
 
 /// Sets an object's redraw state for a scope and sets it back to what it was.
 class DrawnAtOnce {
@@ -113,7 +111,7 @@ std::vector<MemberValue> ReadOthers(const EditedAttribute& edited, const std::ws
 /// The value is written by now: a failure is no failure to write.
 void ShowChange(const EditedAttribute& edited) {
     const HRESULT outcome = Guard(IID_NULL, [&] {
-        ThrowIfFailed(edited.host->UpdateView(attributesChanged, 1), L"The host does not update its view");
+        ThrowIfFailed(edited.host->UpdateView(change::attribute, 1), L"The host does not update its view");
         edited.members->objects.Refresh(edited.object.Get());
     });
     if (FAILED(outcome)) ShowErrorInDebugger();

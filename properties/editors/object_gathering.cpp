@@ -1,8 +1,8 @@
 #include "properties/editors/object_gathering.h"
 
 #include "host/attributes.h"
+#include "host/host_calls.h"
 #include "host/object_path.h"
-#include "host/page_count.h"
 #include "properties/editors/shown_value.h"
 
 #include <unordered_set>

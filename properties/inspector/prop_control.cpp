@@ -2,6 +2,7 @@
 #include "properties/inspector/prop_control.h"
 
 #include "host/attributes.h"
+#include "host/host_calls.h"
 #include "host/object_path.h"
 #include "properties/editors/confirmation_pause.h"
 #include "properties/model/confirmation.h"
@@ -13,18 +14,9 @@ namespace qz {
 
 namespace {
 
-// Bits of the host's change flags.
-constexpr long selectionChanged = 0x2;
-
 bool IsSet(const VARIANT& value) noexcept {
     if (value.vt == VT_BOOL) return value.boolVal != VARIANT_FALSE;
     return value.vt == VT_I4 && value.lVal != 0;
-}
-
-ComPtr<IDispatch> CurrentObject(IVandraX* host) {
-    _variant_t current;
-    ThrowIfFailed(host->GetCurrentObject(&current), L"The host does not tell the selected object");
-    return ObjectOf(current);
 }
 
 }  // namespace
@@ -150,10 +142,9 @@ void PropControl::FollowHost() {
 void PropControl::FollowChange() {
     const ComPtr<IVandraX> host = Host();
     const unsigned stage = objectStage_;
-    long flags = 0;
-    ThrowIfFailed(host->GetChangeFlags(&flags), L"The host does not tell what changed");
+    const ChangeFlags changes = ChangesOf(host.Get());
     if (stage != objectStage_) return;  // the object that was set meanwhile stays
-    if (flags == 0 || (flags & selectionChanged)) return FollowSelection(host.Get());
+    if (changes.AnyOrUntold(change::selection)) return FollowSelection(host.Get());
     if (!object_) return;
     const bool there = ObjectIsThere();
     if (stage != objectStage_) return;
@@ -164,7 +155,7 @@ void PropControl::FollowChange() {
 
 void PropControl::FollowSelection(IVandraX* host) {
     const unsigned stage = objectStage_;
-    const ComPtr<IDispatch> current = CurrentObject(host);
+    const ComPtr<IDispatch> current = ObjectOf(CurrentObjectOf(host));
     if (!current && !object_) return;
     const bool inspected = current && ObjectIsThere() && IsInspected(current);
     if (stage != objectStage_) return;  // the object that was set meanwhile stays

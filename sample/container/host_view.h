@@ -2,6 +2,7 @@
 #pragma once
 
 #include "com/object.h"
+#include "host/object_path.h"
 #include "sample/container/event_sink.h"
 #include "sample/container/layout.h"
 
@@ -41,7 +42,7 @@ class HostView {
 
     /// The object selected, or the document itself.
     ComPtr<IDispatch> SelectedOrDocument() const;
-    ComPtr<IDispatch> Document() const { return ObjectAt(L"Document"); }
+    ComPtr<IDispatch> Document() const { return ObjectAt(documentPath); }
     ComPtr<IDispatch> ObjectAt(const wchar_t* path) const;
     /// Makes a form field on the current page, and selects it.
     void AddField();

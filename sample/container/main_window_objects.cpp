@@ -33,7 +33,7 @@ void MainWindow::ShowObjectProperties() {
     PutProperty(dialog.Get(), L"Object", _variant_t(host_->SelectedOrDocument().Get()));
     CallMethod(dialog.Get(), L"DoModeless", {HandleVariant(Handle())});
     CallMethod(dialog.Get(), L"InitObjectList");
-    CallMethod(dialog.Get(), L"AddObject", {L"Document"});
+    CallMethod(dialog.Get(), L"AddObject", {documentPath});
     for (long page = 1; page <= std::min(host_->PageCount(), 20L); ++page) {
         CallMethod(dialog.Get(), L"AddObject", {(L"Pages[" + std::to_wstring(page) + L"]").c_str()});
     }

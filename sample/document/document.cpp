@@ -1,5 +1,7 @@
 #include "sample/document/document.h"
 
+#include "host/object_path.h"
+
 #include <algorithm>
 #include <set>
 
@@ -58,8 +60,8 @@ void CopyLayers(Document& document, const Document& from) {
 }  // namespace
 
 Document::Document()
-    : settings_(objects.Create(object_type::document, L"Document").id),
-      information_(objects.Create(object_type::information, L"DocInfo").id),
+    : settings_(objects.Create(object_type::document, documentPath).id),
+      information_(objects.Create(object_type::information, informationPath).id),
       pageCollection_(objects.Create(object_type::pageCollection, L"Pages").id) {}
 
 DocumentObject& Document::AddLayer(const std::wstring& name) {

@@ -1,7 +1,7 @@
 // The document that the reference host edits: plain data with the operations that keep it consistent.
 #pragma once
 
-#include "sample/document/change_flags.h"
+#include "host/change_flags.h"
 #include "sample/document/object_store.h"
 #include "sample/document/outline.h"
 #include "sample/document/page_list.h"

@@ -1,5 +1,6 @@
 #include "sample/document/object_access.h"
 
+#include "host/object_path.h"
 #include "sample/document/document_attributes.h"
 #include "sample/document/page_attributes.h"
 #include "sample/document/text.h"
@@ -138,7 +139,7 @@ std::wstring PathOf(const Document& document, ObjectKey key) {
     if (key.kind == ObjectKey::Kind::Page) {
         const int32_t number = document.pages.NumberOf(key.id);
         if (number == 0) NoObject();
-        return L"Pages[" + std::to_wstring(number) + L"]";
+        return std::wstring(std::wstring_view(PagePath(number)));
     }
     const DocumentObject& object = RequireObject(document, key.id);
     switch (object.type) {
@@ -147,7 +148,7 @@ std::wstring PathOf(const Document& document, ObjectKey key) {
         case object_type::pageCollection:
             return object.name;
         case object_type::layer:
-            return L"Layers[" + object.name + L"]";
+            return LayerPath(object.name);
         case object_type::layerConfiguration:
             return ElementPath(L"LayerConfigs", document.configurations, key.id);
         case object_type::font:

@@ -1,5 +1,7 @@
 #include "sample/document/object_path.h"
 
+#include "host/object_path.h"
+
 namespace qz::sample {
 
 namespace {
@@ -47,8 +49,8 @@ std::optional<ObjectPath> ParseObjectPath(std::wstring_view path) {
         }
         return std::nullopt;
     }
-    if (path == L"Document") return ObjectPath{PathKind::Document, 0, {}};
-    if (path == L"DocInfo") return ObjectPath{PathKind::Information, 0, {}};
+    if (path == documentPath) return ObjectPath{PathKind::Document, 0, {}};
+    if (path == informationPath) return ObjectPath{PathKind::Information, 0, {}};
     if (path == L"Pages") return ObjectPath{PathKind::Pages, 0, {}};
     return std::nullopt;
 }

@@ -1,7 +1,7 @@
 // What has to be told to those who follow the host, and when.
 #pragma once
 
-#include "sample/document/change_flags.h"
+#include "host/change_flags.h"
 
 #include <cstdint>
 

@@ -4,6 +4,15 @@
 
 namespace qz::sample {
 
+namespace {
+
+/// Of a document that takes the place of another.
+constexpr uint32_t newDocument = change::mode | change::selection | change::currentPage | change::view |
+                                 change::pages | change::pageSize | change::documentSettings |
+                                 change::layers | change::outline;
+
+}  // namespace
+
 void HostModel::SetZoom(int32_t percent) { view_.zoom = std::clamp(percent, 10, 1000); }
 
 void HostModel::SetCurrentPage(int32_t number) {
@@ -19,7 +28,7 @@ void HostModel::Replace(Document document) {
     drawingAtOnce_.clear();
     modified_ = false;
     view_.currentPage = document_.pages.Count() > 0 ? 1 : 0;
-    changes.Note(change::newDocument);
+    changes.Note(newDocument);
 }
 
 void HostModel::NoteContent(uint32_t flags) {
