@@ -5,39 +5,10 @@
 
 namespace qz {
 
-BookmarkControl::BookmarkControl()
-    : events_(Identity(), DIID__IqzBookmarkCtrlEvents, [this] { return EventsFrozen(); }) {}
-
-void BookmarkControl::FinalRelease() noexcept {
-    events_.Point().DisconnectAll();
-    PaneControl::FinalRelease();
-}
-
-template <class Change>
-HRESULT BookmarkControl::Run(Change&& change) noexcept {
-    const ComPtr<IUnknown> alive = Identity();
-    return Guard(__uuidof(IqzBookmarkCtrl), std::forward<Change>(change));
-}
-
-HRESULT BookmarkControl::GetNumber(long* value, long number) const noexcept {
-    return Guard(__uuidof(IqzBookmarkCtrl), [&] {
-        RequirePointer(value);
-        *value = number;
-    });
-}
-
-HRESULT BookmarkControl::PutNumber(long& number, long value) noexcept {
-    number = value;
-    SetDirty(true);
-    return S_OK;
-}
-
 // Host and outline
 // ---------------------------------------------------------------------------------------------
 
-STDMETHODIMP BookmarkControl::Initialize(IDispatch* pDispatch) {
-    return InitializePane(__uuidof(IqzBookmarkCtrl), pDispatch);
-}
+STDMETHODIMP BookmarkControl::Initialize(IDispatch* pDispatch) { return InitializePane(pDispatch); }
 
 STDMETHODIMP BookmarkControl::InitializeV(VARIANT Var) {
     const VARIANT* held = &Var;
@@ -87,7 +58,7 @@ STDMETHODIMP BookmarkControl::CollapseAll() {
 
 STDMETHODIMP BookmarkControl::put_FitToParent(long newVal) {
     return Run([&] {
-        PutNumber(fitToParent_, newVal);
+        Keep(fitToParent_, newVal);
         if (newVal) FitToParent(WindowHandle());
     });
 }
@@ -123,10 +94,7 @@ STDMETHODIMP BookmarkControl::put_TextColor(OLE_COLOR newVal) {
 }
 
 STDMETHODIMP BookmarkControl::get_SelectedTextColor(OLE_COLOR* pVal) {
-    return Run([&] {
-        RequirePointer(pVal);
-        *pVal = colours_.selectedText;
-    });
+    return Answer(pVal, colours_.selectedText);
 }
 
 STDMETHODIMP BookmarkControl::put_SelectedTextColor(OLE_COLOR newVal) {
@@ -139,10 +107,7 @@ STDMETHODIMP BookmarkControl::put_SelectedTextColor(OLE_COLOR newVal) {
 }
 
 STDMETHODIMP BookmarkControl::get_SelectedTextBackColor(OLE_COLOR* pVal) {
-    return Run([&] {
-        RequirePointer(pVal);
-        *pVal = colours_.selectedBack;
-    });
+    return Answer(pVal, colours_.selectedBack);
 }
 
 STDMETHODIMP BookmarkControl::put_SelectedTextBackColor(OLE_COLOR newVal) {
@@ -155,10 +120,7 @@ STDMETHODIMP BookmarkControl::put_SelectedTextBackColor(OLE_COLOR newVal) {
 }
 
 STDMETHODIMP BookmarkControl::get_IconSet(qzBookmarksCtrlIconSetConsts* pVal) {
-    return Run([&] {
-        RequirePointer(pVal);
-        *pVal = iconSet_;
-    });
+    return Answer(pVal, iconSet_);
 }
 
 STDMETHODIMP BookmarkControl::put_IconSet(qzBookmarksCtrlIconSetConsts newVal) {

@@ -2,13 +2,11 @@
 #pragma once
 
 #include "com/class_info.h"
-#include "com/connection_points.h"
 #include "com/dispatch.h"
 #include "panes/bookmarks/bookmark_images.h"
 #include "panes/bookmarks/bookmark_tree.h"
 #include "panes/bookmarks/item_colours.h"
 #include "panes/common/pane_control.h"
-#include "panes/common/pane_events.h"
 #include "ui/gdi.h"
 
 #include "generated/qzVandraExt.h"
@@ -17,23 +15,20 @@ namespace qz {
 
 /// See the type library for the members. Those with a host return S_OK and do nothing without one.
 class BookmarkControl final
-    : public Object<BookmarkControl, PaneControl, Dispatch<IqzBookmarkCtrl>,
-                    ProvideClassInfo<CLSID_qzBookmarkCtrl, DIID__IqzBookmarkCtrlEvents>,
-                    ConnectionPointContainer>,
+    : public Object<BookmarkControl, PaneOf<IqzBookmarkCtrl, DIID__IqzBookmarkCtrlEvents>,
+                    Dispatch<IqzBookmarkCtrl>,
+                    ProvideClassInfo<CLSID_qzBookmarkCtrl, DIID__IqzBookmarkCtrlEvents>>,
       private BookmarkTreeListener {
   public:
-    BookmarkControl();
-    void FinalRelease() noexcept;
-
     STDMETHODIMP Initialize(IDispatch* pDispatch) override;
     STDMETHODIMP Refresh() override;
     STDMETHODIMP InitializeV(VARIANT Var) override;
-    STDMETHODIMP get_FitToParent(long* pVal) override { return GetNumber(pVal, fitToParent_); }
+    STDMETHODIMP get_FitToParent(long* pVal) override { return Answer(pVal, fitToParent_); }
     STDMETHODIMP put_FitToParent(long newVal) override;
-    STDMETHODIMP get_ReadOnly(long* pVal) override { return GetNumber(pVal, readOnly_); }
-    STDMETHODIMP put_ReadOnly(long newVal) override { return PutNumber(readOnly_, newVal); }
-    STDMETHODIMP get_EnableDragDrop(long* pVal) override { return GetNumber(pVal, enableDragDrop_); }
-    STDMETHODIMP put_EnableDragDrop(long newVal) override { return PutNumber(enableDragDrop_, newVal); }
+    STDMETHODIMP get_ReadOnly(long* pVal) override { return Answer(pVal, readOnly_); }
+    STDMETHODIMP put_ReadOnly(long newVal) override { return Keep(readOnly_, newVal); }
+    STDMETHODIMP get_EnableDragDrop(long* pVal) override { return Answer(pVal, enableDragDrop_); }
+    STDMETHODIMP put_EnableDragDrop(long newVal) override { return Keep(enableDragDrop_, newVal); }
     STDMETHODIMP ExpandAll() override;
     STDMETHODIMP CollapseAll() override;
     STDMETHODIMP get_BackColor(OLE_COLOR* pVal) override { return GetBackColor(pVal); }
@@ -58,11 +53,6 @@ class BookmarkControl final
     // bookmark_control.cpp: members
     REFCLSID ClassId() const noexcept override { return CLSID_qzBookmarkCtrl; }
     std::span<const PersistentProperty> PersistentProperties() const override;
-    std::vector<ConnectionPoint*> Points() override { return {&events_.Point(), &PropertyNotifyPoint()}; }
-    HRESULT GetNumber(long* value, long number) const noexcept;
-    HRESULT PutNumber(long& number, long value) noexcept;
-    template <class Change>
-    HRESULT Run(Change&& change) noexcept;
 
     // bookmark_control_outline.cpp: the host and its outline
     void ShowDocument() override;
@@ -99,7 +89,6 @@ class BookmarkControl final
     void Redraw() noexcept;
 
     BookmarkTree tree_{*this};
-    PaneEvents events_;
     std::shared_ptr<BookmarkMembers> members_ = std::make_shared<BookmarkMembers>();
     ItemColours colours_;
     ImageList images_;

@@ -3,6 +3,7 @@
 
 #include "host/auto_refresh.h"
 #include "host/host_calls.h"
+#include "panes/common/asked_by_user.h"
 #include "res/strings.h"
 #include "res/text_ids.h"
 #include "ui/progress.h"
@@ -171,7 +172,7 @@ HRESULT BookmarkControl::ReadOutline(const ComPtr<IVandraX>& host, const Outline
     documentMode_ = mode;
     const OutlineOutcome outcome = BuildTree(root.Get(), reader, silence, limits);
     if (outcome.empty && outcome.whole) {
-        events_.Raise(sizeToZero);
+        Events().Raise(sizeToZero);
     } else if (tree_) {
         tree_.Select(nullptr);
     }
@@ -218,12 +219,13 @@ bool BookmarkControl::ReadBelow(HTREEITEM item) {
     const ComPtr<IVandraX> host = Host();
     const ComPtr<IDispatch> bookmark = tree_.BookmarkOf(item);
     if (!host || !bookmark || othersTurn_) return false;
-    const HRESULT result = Guard(__uuidof(IqzBookmarkCtrl), [&] {
-        BookmarkReader reader = MakeReader(host);
-        const TreeRedrawScope still(tree_);
-        OutlineWalk(reader, tree_, oneLevel).Below(bookmark, item);
+    const HRESULT result = Run([&] {
+        AskedByUser([&] {
+            BookmarkReader reader = MakeReader(host);
+            const TreeRedrawScope still(tree_);
+            OutlineWalk(reader, tree_, oneLevel).Below(bookmark, item);
+        });
     });
-    if (FAILED(result)) MessageBeep(MB_ICONWARNING);
     return SUCCEEDED(result);
 }
 
@@ -248,12 +250,7 @@ void BookmarkControl::ActivateItem(HTREEITEM item) {
     const ComPtr<IDispatch> bookmark = tree_.BookmarkOf(item);
     const std::shared_ptr<BookmarkMembers> members = members_;
     if (!Host() || !bookmark) return;
-    try {
-        members->activate.Call(bookmark.Get());
-    } catch (...) {
-        MessageBeep(MB_ICONWARNING);  // the user has asked for it and is told that it failed
-        throw;
-    }
+    AskedByUser([&] { members->activate.Call(bookmark.Get()); });
 }
 
 }  // namespace qz

@@ -4,14 +4,33 @@
 
 namespace qz {
 
+PaneControl::PaneControl(REFIID members, REFIID events)
+    : members_(members), events_(Self(), events, [this] { return EventsFrozen(); }) {}
+
+void* PaneControl::FindInterface(PaneControl* self, REFIID iid) noexcept {
+    void* const found = Control::FindInterface(self, iid);
+    return found ? found : ConnectionPointContainer::FindInterface(self, iid);
+}
+
+std::vector<ConnectionPoint*> PaneControl::Points() {
+    if (events_.Point().Interface() == GUID_NULL) return {&PropertyNotifyPoint()};
+    return {&events_.Point(), &PropertyNotifyPoint()};
+}
+
 void PaneControl::FinalRelease() noexcept {
+    events_.Point().DisconnectAll();
     binding_.Detach();
     Control::FinalRelease();
 }
 
-HRESULT PaneControl::InitializePane(REFIID iid, IDispatch* host) noexcept {
-    const ComPtr<IUnknown> alive = Self();
-    return Guard(iid, [&] {
+HRESULT PaneControl::Keep(long& property, long value) noexcept {
+    property = value;
+    SetDirty(true);
+    return S_OK;
+}
+
+HRESULT PaneControl::InitializePane(IDispatch* host) noexcept {
+    return Run([&] {
         Attach(host);
         ShowDocument();
     });
@@ -42,19 +61,11 @@ void PaneControl::LetGo() {
     ForgetDocument();
 }
 
-HRESULT PaneControl::ResetPane(REFIID iid) noexcept {
+HRESULT PaneControl::ResetPane() noexcept {
     if (!binding_.Host()) return S_OK;
-    const ComPtr<IUnknown> alive = Self();
-    return Guard(iid, [&] {
+    return Run([&] {
         OnReset();
         LetGo();
-    });
-}
-
-HRESULT PaneControl::TellInitialized(REFIID iid, long* answer) noexcept {
-    return Guard(iid, [&] {
-        RequirePointer(answer);
-        *answer = binding_.Host() ? 1 : 0;
     });
 }
 

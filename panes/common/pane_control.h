@@ -1,35 +1,64 @@
 // The base of the panes: a control that shows something of a host's document and follows the host.
 #pragma once
 
+#include "com/connection_points.h"
 #include "host/host_binding.h"
+#include "panes/common/pane_events.h"
 #include "res/language.h"
 #include "ui/control.h"
 
+#include <type_traits>
+#include <utility>
+#include <vector>
+
 namespace qz {
 
-/// Attaching, letting go and the host's change event are the same for every pane; what a pane reads and shows
-/// is its own. Apartment-threaded. Every call to the host may come back, reset or release the pane: look
-/// again at `Host()` after it.
-class PaneControl : public Control, private HostListener {
+/// Attaching, letting go, the host's change event and the pane's own events are the same for every pane; what
+/// a pane reads and shows is its own. Panes derive from `PaneOf` below. Apartment-threaded. Every call to the
+/// host may come back, reset or release the pane: look again at `Host()` after it.
+class PaneControl : public Control, public ConnectionPointContainer, private HostListener {
   public:
+    static void* FindInterface(PaneControl* self, REFIID iid) noexcept;
+
     /// Called by Object. A derived class that has its own calls this one last.
     void FinalRelease() noexcept;
 
   protected:
-    PaneControl() = default;
+    /// `members` is the pane's interface, `events` that of its events; GUID_NULL for a pane without.
+    PaneControl(REFIID members, REFIID events);
     ~PaneControl() = default;
 
-    // The members that every pane offers; `iid` is the pane's interface, for the error's text
-    // --------------------------------------------------
+    // What the members of a pane are made of
+    // --------------------------------------------------------------------------------------
+
+    /// Runs a member's body through the guard, with the pane kept alive.
+    template <class Body>
+    HRESULT Run(Body&& body) noexcept {
+        const ComPtr<IUnknown> alive = Self();
+        return Guard(members_, std::forward<Body>(body));
+    }
+    /// Gives a value to the caller. E_POINTER.
+    template <class Value>
+    HRESULT Answer(Value* slot, std::type_identity_t<Value> value) const noexcept {
+        return Guard(members_, [&] {
+            RequirePointer(slot);
+            *slot = value;
+        });
+    }
+    /// Takes the new value of a property that is saved with the pane.
+    HRESULT Keep(long& property, long value) noexcept;
+
+    // The members that every pane offers
+    // ------------------------------------------------------------------------------------------
 
     /// Attaches to a host, letting go of the one before, and shows its document. E_INVALIDARG for null; the
     /// query's failure for what is no host, which leaves everything as it is. When the host does not bear
     /// `CheckHost` the pane is left without one; a failure of `ShowDocument` leaves it attached.
-    HRESULT InitializePane(REFIID iid, IDispatch* host) noexcept;
+    HRESULT InitializePane(IDispatch* host) noexcept;
     /// Lets go of the host; S_OK without one.
-    HRESULT ResetPane(REFIID iid) noexcept;
+    HRESULT ResetPane() noexcept;
     /// 1 when a host is attached, else 0. E_POINTER.
-    HRESULT TellInitialized(REFIID iid, long* answer) noexcept;
+    HRESULT TellInitialized(long* answer) const noexcept { return Answer(answer, Host() ? 1 : 0); }
 
     // For the derived pane: what it does with the host
     // ----------------------------------------------------------------------
@@ -50,7 +79,8 @@ class PaneControl : public Control, private HostListener {
 
     /// Null without one. A caller that makes several calls keeps a reference.
     const ComPtr<IVandraX>& Host() const noexcept { return binding_.Host(); }
-    /// The language of the host's user, for the texts that he sees.
+    PaneEvents& Events() noexcept { return events_; }
+    /// The language of the host's user, for the texts that they see.
     Language TextLanguage() const { return LanguageFromId(binding_.LanguageId()); }
 
     /// Marks a stretch in which the pane itself calls the host, whose notifications then tell it nothing new.
@@ -67,11 +97,22 @@ class PaneControl : public Control, private HostListener {
 
   private:
     void OnHostChanged() noexcept override;
+    std::vector<ConnectionPoint*> Points() override;
     void Attach(IDispatch* candidate);
     void LetGo();
 
+    IID members_;
+    PaneEvents events_;
     HostBinding binding_{*this};
     int ownHostCalls_ = 0;
+};
+
+/// The base of a pane with the members of `Members` and the events of `Events`.
+template <class Members, const IID& Events, class Base = PaneControl>
+class PaneOf : public Base {
+  protected:
+    PaneOf() : Base(__uuidof(Members), Events) {}
+    ~PaneOf() = default;
 };
 
 }  // namespace qz

@@ -12,9 +12,12 @@ namespace qz {
 /// anything inside: callers look again at what they go on with.
 class PaneEvents {
   public:
-    /// `owner` is the control's identity, not counted; `frozen` tells whether events are to be dropped.
+    /// `owner` counts for the control, not counted here; `frozen` tells whether events are to be dropped.
     PaneEvents(IUnknown* owner, const IID& events, std::function<bool()> frozen)
         : point_(owner, events), frozen_(std::move(frozen)) {}
+
+    PaneEvents(const PaneEvents&) = delete;
+    PaneEvents& operator=(const PaneEvents&) = delete;
 
     ConnectionPoint& Point() noexcept { return point_; }
 

@@ -8,20 +8,20 @@
 namespace qz {
 
 /// The events of `_IqzLayersCtrlEvents`. Each returns whether the pane shall go on.
-class LayerEvents : private PaneEvents {
+class LayerEvents {
   public:
-    LayerEvents(IUnknown* owner, std::function<bool()> frozen)
-        : PaneEvents(owner, DIID__IqzLayersCtrlEvents, std::move(frozen)) {}
+    explicit LayerEvents(PaneEvents& events) noexcept : events_(events) {}
 
-    using PaneEvents::Point;
-
-    bool LayerActivated() { return Ask(1); }
+    bool LayerActivated() { return events_.Ask(1); }
     /// Whether the pane shall show its own message.
     bool ShowMessage(qzLayersCtrlShowMsgConsts message) {
-        return Ask(2, {EventArgument(static_cast<long>(message))});
+        return events_.Ask(2, {EventArgument(static_cast<long>(message))});
     }
     /// Screen pixels. Whether the pane shall show its own menu.
-    bool ContextSensitiveMenu(long x, long y) { return Ask(3, {EventArgument(x), EventArgument(y)}); }
+    bool ContextSensitiveMenu(long x, long y) { return events_.Ask(3, {EventArgument(x), EventArgument(y)}); }
+
+  private:
+    PaneEvents& events_;
 };
 
 }  // namespace qz

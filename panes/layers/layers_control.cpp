@@ -9,8 +9,6 @@ namespace qz {
 
 namespace {
 
-constexpr IID iid = __uuidof(IqzLayersCtrl);
-
 /// With one of these names may be other ones.
 constexpr std::uint32_t namesChanged = change::pages | change::documentSettings | change::attribute;
 /// With one of these another page is current, or other content is on it.
@@ -23,71 +21,43 @@ constexpr bool DependsOnPage(long listLayers) noexcept {
 
 }  // namespace
 
-LayersControl::LayersControl() : events_(Identity(), [this] { return EventsFrozen(); }) {}
-
-void LayersControl::FinalRelease() noexcept {
-    events_.Point().DisconnectAll();
-    PaneControl::FinalRelease();
-}
-
 // Members
 // ------------------------------------------------------------------------------------------------------
 
-STDMETHODIMP LayersControl::Initialize(IDispatch* pDispatch) { return InitializePane(iid, pDispatch); }
+STDMETHODIMP LayersControl::Initialize(IDispatch* pDispatch) { return InitializePane(pDispatch); }
 
 STDMETHODIMP LayersControl::Refresh() {
     if (!Host()) return S_OK;
-    const ComPtr<IUnknown> alive = Identity();
-    return Guard(iid, [&] { Rebuild(); });
+    return Run([&] { Rebuild(); });
 }
 
-STDMETHODIMP LayersControl::Reset() { return ResetPane(iid); }
+STDMETHODIMP LayersControl::Reset() { return ResetPane(); }
 
-STDMETHODIMP LayersControl::get_IsInitialized(long* pVal) { return TellInitialized(iid, pVal); }
+STDMETHODIMP LayersControl::get_IsInitialized(long* pVal) { return TellInitialized(pVal); }
 
-STDMETHODIMP LayersControl::get_FitToParent(long* pVal) {
-    return Guard(iid, [&] {
-        RequirePointer(pVal);
-        *pVal = fitToParent_;
-    });
-}
+STDMETHODIMP LayersControl::get_FitToParent(long* pVal) { return Answer(pVal, fitToParent_); }
 
 STDMETHODIMP LayersControl::put_FitToParent(long newVal) {
-    const ComPtr<IUnknown> alive = Identity();
-    fitToParent_ = newVal;
-    SetDirty(true);
-    if (newVal) FitToParent(WindowHandle());
-    return S_OK;
-}
-
-STDMETHODIMP LayersControl::get_Locked(long* pVal) {
-    return Guard(iid, [&] {
-        RequirePointer(pVal);
-        *pVal = locked_;
+    return Run([&] {
+        Keep(fitToParent_, newVal);
+        if (newVal) FitToParent(WindowHandle());
     });
 }
 
-STDMETHODIMP LayersControl::put_Locked(long newVal) {
-    locked_ = newVal;
-    SetDirty(true);
-    return S_OK;
-}
+STDMETHODIMP LayersControl::get_Locked(long* pVal) { return Answer(pVal, locked_); }
+
+STDMETHODIMP LayersControl::put_Locked(long newVal) { return Keep(locked_, newVal); }
 
 STDMETHODIMP LayersControl::get_ListLayers(qzLayersCtrlListLayers* pVal) {
-    return Guard(iid, [&] {
-        RequirePointer(pVal);
-        *pVal = static_cast<qzLayersCtrlListLayers>(listLayers_);
-    });
+    return Answer(pVal, static_cast<qzLayersCtrlListLayers>(listLayers_));
 }
 
 STDMETHODIMP LayersControl::put_ListLayers(qzLayersCtrlListLayers newVal) {
-    const ComPtr<IUnknown> alive = Identity();
-    return Guard(iid, [&] {
+    return Run([&] {
         if (newVal < qzLayersCtrlListLayers_None || newVal > qzLayersCtrlListLayers_ForCurrentPage) {
             Throw(E_INVALIDARG, L"There is no such choice of layers");
         }
-        listLayers_ = newVal;
-        SetDirty(true);
+        Keep(listLayers_, newVal);
         List();
     });
 }
@@ -95,8 +65,7 @@ STDMETHODIMP LayersControl::put_ListLayers(qzLayersCtrlListLayers newVal) {
 STDMETHODIMP LayersControl::ResetToInitialVisibility() {
     const ComPtr<IVandraX> host = Host();
     if (!host) return S_OK;
-    const ComPtr<IUnknown> alive = Identity();
-    return Guard(iid, [&] {
+    return Run([&] {
         if (locked_) Throw(E_ACCESSDENIED, L"The layers are locked");
         Carry(host, layers_.Reset());
     });
@@ -105,8 +74,7 @@ STDMETHODIMP LayersControl::ResetToInitialVisibility() {
 STDMETHODIMP LayersControl::LayerProperties() {
     const ComPtr<IVandraX> host = Host();
     if (!host) return S_OK;
-    const ComPtr<IUnknown> alive = Identity();
-    return Guard(iid, [&] { ShowSelectedProperties(host); });
+    return Run([&] { ShowSelectedProperties(host); });
 }
 
 STDMETHODIMP LayersControl::put_BackColor(OLE_COLOR newVal) {

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "com/class_info.h"
-#include "com/connection_points.h"
 #include "com/dispatch.h"
 #include "panes/common/menu_request.h"
 #include "panes/common/pane_control.h"
@@ -25,14 +24,11 @@ namespace qz {
 ///
 /// The host's states of all layers are in `layers_`, and every change of them goes through it; the tree shows
 /// the items that are listed.
-class LayersControl final : public Object<LayersControl, PaneControl, Dispatch<IqzLayersCtrl>,
-                                          ProvideClassInfo<CLSID_qzLayersCtrl, DIID__IqzLayersCtrlEvents>,
-                                          ConnectionPointContainer>,
-                            private LayerTreeListener {
+class LayersControl final
+    : public Object<LayersControl, PaneOf<IqzLayersCtrl, DIID__IqzLayersCtrlEvents>, Dispatch<IqzLayersCtrl>,
+                    ProvideClassInfo<CLSID_qzLayersCtrl, DIID__IqzLayersCtrlEvents>>,
+      private LayerTreeListener {
   public:
-    LayersControl();
-    void FinalRelease() noexcept;
-
     STDMETHODIMP Initialize(IDispatch* pDispatch) override;
     STDMETHODIMP Refresh() override;
     STDMETHODIMP Reset() override;
@@ -52,7 +48,6 @@ class LayersControl final : public Object<LayersControl, PaneControl, Dispatch<I
     // layers_control.cpp: members, host and records
     REFCLSID ClassId() const noexcept override { return CLSID_qzLayersCtrl; }
     std::span<const PersistentProperty> PersistentProperties() const override;
-    std::vector<ConnectionPoint*> Points() override { return {&events_.Point(), &PropertyNotifyPoint()}; }
     void ShowDocument() override { Rebuild(); }
     void ForgetDocument() override;
     void FollowHost() override;
@@ -101,14 +96,13 @@ class LayersControl final : public Object<LayersControl, PaneControl, Dispatch<I
     bool OnContextMenu(WPARAM wParam, LPARAM lParam);
     bool IsAboutSelection(const MenuRequest& request) const;
     POINT KeyboardMenuPoint() const;
-    void Run(LayerCommand command);
     void RunCommand(LayerCommand command, const ComPtr<IVandraX>& host);
     LayerCommandState CommandState() const;
     std::optional<std::size_t> ItemOf(HTREEITEM handle) const;
     std::optional<std::size_t> SelectedLayer() const;
     void ShowSelectedProperties(const ComPtr<IVandraX>& host);
 
-    LayerEvents events_;
+    LayerEvents events_{Events()};
     LayerTreeView tree_{*this};
     LayerVisibility layers_;
     std::vector<ComPtr<IDispatch>> configurations_;

@@ -1,5 +1,6 @@
 // What the user does with mouse and keyboard, turned into changes of the layers and into commands.
 #include "host/object_path.h"
+#include "panes/common/asked_by_user.h"
 #include "panes/layers/layer_menu.h"
 #include "panes/layers/layer_properties.h"
 #include "panes/layers/layers_control.h"
@@ -125,12 +126,7 @@ void LayersControl::ToggleByUser(std::size_t record) {
     if (show && layer.DisabledByParent()) return RefuseBelowHidden();
     const auto change = layers_.Set(record, show);
     if (!change) return;
-    try {
-        Carry(host, *change);
-    } catch (...) {
-        MessageBeep(MB_ICONWARNING);  // the user has asked for it and is told that it failed
-        throw;
-    }
+    AskedByUser([&] { Carry(host, *change); });
 }
 
 void LayersControl::RefuseBelowHidden() {
@@ -162,7 +158,9 @@ bool LayersControl::OnContextMenu(WPARAM wParam, LPARAM lParam) {
     LayerCommandState state = CommandState();
     state.layerSelected = state.layerSelected && aboutSelection;
     const auto command = ShowLayerMenu(WindowHandle(), screen, TextLanguage(), state);
-    if (command && StillShows(host, generation) && CommandState().Enables(*command)) Run(*command);
+    if (command && StillShows(host, generation) && CommandState().Enables(*command)) {
+        AskedByUser([&] { RunCommand(*command, host); });
+    }
     return true;
 }
 
@@ -199,16 +197,6 @@ LayerCommandState LayersControl::CommandState() const {
 std::optional<std::size_t> LayersControl::SelectedLayer() const {
     const auto item = tree_ ? ItemOf(tree_.Selected()) : std::nullopt;
     return item && !layers_.Records().RecordOf(*item).missing ? item : std::nullopt;
-}
-
-void LayersControl::Run(LayerCommand command) {
-    const ComPtr<IVandraX> host = Host();
-    try {
-        RunCommand(command, host);
-    } catch (...) {
-        MessageBeep(MB_ICONWARNING);  // the user has asked for it and is told that it failed
-        throw;
-    }
 }
 
 void LayersControl::RunCommand(LayerCommand command, const ComPtr<IVandraX>& host) {

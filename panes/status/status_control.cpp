@@ -10,23 +10,17 @@ namespace qz {
 // Members
 // ------------------------------------------------------------------------------------------------------
 
-STDMETHODIMP StatusControl::Initialize(IDispatch* pDispatch) {
-    return InitializePane(__uuidof(IqzStatusCtrl), pDispatch);
-}
+STDMETHODIMP StatusControl::Initialize(IDispatch* pDispatch) { return InitializePane(pDispatch); }
 
-STDMETHODIMP StatusControl::Reset() { return ResetPane(__uuidof(IqzStatusCtrl)); }
+STDMETHODIMP StatusControl::Reset() { return ResetPane(); }
 
 STDMETHODIMP StatusControl::get_UnitOfMeasure(StatusCtrlUnitsOfMeasure* pVal) {
-    return Guard(__uuidof(IqzStatusCtrl), [&] {
-        RequirePointer(pVal);
-        *pVal = static_cast<StatusCtrlUnitsOfMeasure>(unit_);
-    });
+    return Answer(pVal, static_cast<StatusCtrlUnitsOfMeasure>(unit_));
 }
 
 /// Any value is taken; those that are no unit show twips.
 STDMETHODIMP StatusControl::put_UnitOfMeasure(StatusCtrlUnitsOfMeasure newVal) {
-    const ComPtr<IUnknown> alive = Identity();
-    return Guard(__uuidof(IqzStatusCtrl), [&] {
+    return Run([&] {
         unit_ = static_cast<LengthUnit>(newVal);
         SetDirty(true);
         ShowFields();
@@ -34,15 +28,11 @@ STDMETHODIMP StatusControl::put_UnitOfMeasure(StatusCtrlUnitsOfMeasure newVal) {
 }
 
 HRESULT StatusControl::TellVisible(StatusField field, VARIANT_BOOL* answer) const {
-    return Guard(__uuidof(IqzStatusCtrl), [&] {
-        RequirePointer(answer);
-        *answer = visible_[field] ? VARIANT_TRUE : VARIANT_FALSE;
-    });
+    return Answer(answer, visible_[field] ? VARIANT_TRUE : VARIANT_FALSE);
 }
 
 HRESULT StatusControl::MakeVisible(StatusField field, VARIANT_BOOL visible) {
-    const ComPtr<IUnknown> alive = Identity();
-    return Guard(__uuidof(IqzStatusCtrl), [&] {
+    return Run([&] {
         visible_[field] = visible != VARIANT_FALSE;
         SetDirty(true);
         ShowFields();
@@ -111,7 +101,7 @@ void StatusControl::FollowHost() { ReadHost(); }
 template <class Value, class Read>
 bool StatusControl::ReadInto(const ComPtr<IVandraX>& host, Value& value, Read&& read) {
     if (!SameObject(Host(), host)) return false;
-    const HRESULT result = Guard(__uuidof(IqzStatusCtrl), [&] {
+    const HRESULT result = Run([&] {
         auto told = read();
         if (!SameObject(Host(), host)) return S_FALSE;
         value = std::move(told);

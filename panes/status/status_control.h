@@ -2,7 +2,6 @@
 #pragma once
 
 #include "com/class_info.h"
-#include "com/connection_points.h"
 #include "com/dispatch.h"
 #include "host/page_navigation.h"
 #include "panes/common/menu_request.h"
@@ -17,8 +16,8 @@ namespace qz {
 /// See the type library for the members. Those with a host return S_OK and do nothing without one. A field
 /// whose value the host fails to tell stays as it is; nobody is told.
 class StatusControl final
-    : public Object<StatusControl, PaneControl, Dispatch<IqzStatusCtrl>,
-                    ProvideClassInfo<CLSID_qzStatusCtrl, GUID_NULL>, ConnectionPointContainer> {
+    : public Object<StatusControl, PaneOf<IqzStatusCtrl, GUID_NULL>, Dispatch<IqzStatusCtrl>,
+                    ProvideClassInfo<CLSID_qzStatusCtrl, GUID_NULL>> {
   public:
     STDMETHODIMP Initialize(IDispatch* pDispatch) override;
     STDMETHODIMP Reset() override;
@@ -37,7 +36,6 @@ class StatusControl final
     // status_control.cpp: members, host and fields
     REFCLSID ClassId() const noexcept override { return CLSID_qzStatusCtrl; }
     std::span<const PersistentProperty> PersistentProperties() const override;
-    std::vector<ConnectionPoint*> Points() override { return {&PropertyNotifyPoint()}; }
     void ShowDocument() override;
     void ForgetDocument() override;
     void FollowHost() override;

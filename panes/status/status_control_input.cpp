@@ -193,7 +193,7 @@ bool StatusControl::Apply(StatusField entry) {
     if (!text) return false;
     // Before the host is called, which may have the field left a second time.
     view_.Restore(entry);
-    const HRESULT result = Guard(__uuidof(IqzStatusCtrl), [&] { ApplyText(entry, *text); });
+    const HRESULT result = Run([&] { ApplyText(entry, *text); });
     if (FAILED(result)) ShowErrorInDebugger();
     return true;
 }

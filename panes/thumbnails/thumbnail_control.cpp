@@ -22,32 +22,20 @@ long sizeFactor = defaultSizeFactor;
 
 }  // namespace
 
-ThumbnailControl::ThumbnailControl() : events_(Identity(), [this] { return EventsFrozen(); }) {
-    sizeFactor = defaultSizeFactor;
-}
-
-void ThumbnailControl::FinalRelease() noexcept {
-    events_.Point().DisconnectAll();
-    PaneControl::FinalRelease();
-}
+ThumbnailControl::ThumbnailControl() { sizeFactor = defaultSizeFactor; }
 
 // Members
 // ------------------------------------------------------------------------------------------------------
 
-STDMETHODIMP ThumbnailControl::Initialize(IDispatch* pDispatch) {
-    return InitializePane(__uuidof(IqzThumbnailCtrl), pDispatch);
-}
+STDMETHODIMP ThumbnailControl::Initialize(IDispatch* pDispatch) { return InitializePane(pDispatch); }
 
-STDMETHODIMP ThumbnailControl::Reset() { return ResetPane(__uuidof(IqzThumbnailCtrl)); }
+STDMETHODIMP ThumbnailControl::Reset() { return ResetPane(); }
 
-STDMETHODIMP ThumbnailControl::get_IsInitialized(long* pVal) {
-    return TellInitialized(__uuidof(IqzThumbnailCtrl), pVal);
-}
+STDMETHODIMP ThumbnailControl::get_IsInitialized(long* pVal) { return TellInitialized(pVal); }
 
 STDMETHODIMP ThumbnailControl::ScrollPageThumbIntoView(long page) {
     if (!Host()) return S_OK;
-    const ComPtr<IUnknown> alive = Identity();
-    return Guard(__uuidof(IqzThumbnailCtrl), [&] {
+    return Run([&] {
         if (page < 1 || static_cast<std::size_t>(page) > model_.Records().size()) {
             Throw(E_FAIL, L"The document has no page " + std::to_wstring(page));
         }
@@ -56,12 +44,7 @@ STDMETHODIMP ThumbnailControl::ScrollPageThumbIntoView(long page) {
     });
 }
 
-STDMETHODIMP ThumbnailControl::get_ThumbSizeFactor(long* pVal) {
-    return Guard(__uuidof(IqzThumbnailCtrl), [&] {
-        RequirePointer(pVal);
-        *pVal = sizeFactor;
-    });
-}
+STDMETHODIMP ThumbnailControl::get_ThumbSizeFactor(long* pVal) { return Answer(pVal, sizeFactor); }
 
 STDMETHODIMP ThumbnailControl::put_ThumbSizeFactor(long newVal) {
     if (newVal >= smallestSizeFactor && newVal <= largestSizeFactor) sizeFactor = newVal;
@@ -69,8 +52,7 @@ STDMETHODIMP ThumbnailControl::put_ThumbSizeFactor(long newVal) {
 }
 
 STDMETHODIMP ThumbnailControl::RedrawAllThumbs() {
-    const ComPtr<IUnknown> alive = Identity();
-    return Guard(__uuidof(IqzThumbnailCtrl), [&] {
+    return Run([&] {
         RebuildAndMarkCurrent();
         if (const HWND window = WindowHandle()) {
             RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
@@ -79,7 +61,7 @@ STDMETHODIMP ThumbnailControl::RedrawAllThumbs() {
 }
 
 STDMETHODIMP ThumbnailControl::get_SelectedPages(VARIANT* pVal) {
-    return Guard(__uuidof(IqzThumbnailCtrl), [&] {
+    return Run([&] {
         RequirePointer(pVal);
         VariantInit(pVal);
         *pVal = MakePageNumbers(model_.Selection().Pages()).Detach();
@@ -87,7 +69,7 @@ STDMETHODIMP ThumbnailControl::get_SelectedPages(VARIANT* pVal) {
 }
 
 STDMETHODIMP ThumbnailControl::get_SelectedPagesVariant(VARIANT* pVal) {
-    return Guard(__uuidof(IqzThumbnailCtrl), [&] {
+    return Run([&] {
         RequirePointer(pVal);
         VariantInit(pVal);
         *pVal = MakePageVariants(model_.Selection().Pages()).Detach();
@@ -95,24 +77,18 @@ STDMETHODIMP ThumbnailControl::get_SelectedPagesVariant(VARIANT* pVal) {
 }
 
 STDMETHODIMP ThumbnailControl::put_SelectedPages(VARIANT newVal) {
-    const ComPtr<IUnknown> alive = Identity();
-    return Guard(__uuidof(IqzThumbnailCtrl), [&] {
+    return Run([&] {
         model_.Selection().AddPages(PageNumbersOf(newVal));
         UpdateNow();
     });
 }
 
 STDMETHODIMP ThumbnailControl::get_Settings(qzThumbnailCtrlSettings* pVal) {
-    return Guard(__uuidof(IqzThumbnailCtrl), [&] {
-        RequirePointer(pVal);
-        *pVal = static_cast<qzThumbnailCtrlSettings>(settings_);
-    });
+    return Answer(pVal, static_cast<qzThumbnailCtrlSettings>(settings_));
 }
 
 STDMETHODIMP ThumbnailControl::put_Settings(qzThumbnailCtrlSettings newVal) {
-    settings_ = newVal;
-    SetDirty(true);
-    return S_OK;
+    return Keep(settings_, newVal);
 }
 
 STDMETHODIMP ThumbnailControl::SettingsChange(long enabled, qzThumbnailCtrlSettings settingsToChange) {

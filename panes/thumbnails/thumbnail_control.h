@@ -2,7 +2,6 @@
 #pragma once
 
 #include "com/class_info.h"
-#include "com/connection_points.h"
 #include "com/dispatch.h"
 #include "panes/common/menu_request.h"
 #include "panes/common/pane_control.h"
@@ -32,13 +31,12 @@ struct HeldKeys {
 
 /// See the type library for the members. Those with a host return S_OK and do nothing without one.
 class ThumbnailControl final
-    : public Object<ThumbnailControl, PaneControl, Dispatch<IqzThumbnailCtrl>,
-                    ProvideClassInfo<CLSID_qzThumbnailCtrl, DIID__IqzThumbnailCtrlEvents>,
-                    ConnectionPointContainer>,
+    : public Object<ThumbnailControl, PaneOf<IqzThumbnailCtrl, DIID__IqzThumbnailCtrlEvents>,
+                    Dispatch<IqzThumbnailCtrl>,
+                    ProvideClassInfo<CLSID_qzThumbnailCtrl, DIID__IqzThumbnailCtrlEvents>>,
       private PageDropListener {
   public:
     ThumbnailControl();
-    void FinalRelease() noexcept;
 
     STDMETHODIMP Initialize(IDispatch* pDispatch) override;
     STDMETHODIMP Reset() override;
@@ -60,7 +58,6 @@ class ThumbnailControl final
     // thumbnail_control.cpp: members, host and records
     REFCLSID ClassId() const noexcept override { return CLSID_qzThumbnailCtrl; }
     std::span<const PersistentProperty> PersistentProperties() const override;
-    std::vector<ConnectionPoint*> Points() override { return {&events_.Point(), &PropertyNotifyPoint()}; }
     void CheckHost(IVandraX* host) override;
     void ShowDocument() override;
     void ForgetDocument() override;
@@ -109,7 +106,7 @@ class ThumbnailControl final
 
     // thumbnail_control_pages.cpp: what is done with the selected pages
     PageCommandState CommandState() const;
-    void Run(PageCommand command);
+    void RunCommand(PageCommand command);
     void Copy();
     void Cut();
     void Paste();
@@ -137,7 +134,7 @@ class ThumbnailControl final
     ThumbnailModel model_;
     ThumbnailPainter painter_{model_};
     ThumbnailScrollBar scrollBar_{model_};
-    ThumbnailEvents events_;
+    ThumbnailEvents events_{Events()};
     PageDropRegistration dropTarget_;
     /// The size factor that the records were made with: a new one shows from the next rebuild on, also in the
     /// pictures drawn until then.

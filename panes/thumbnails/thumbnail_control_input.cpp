@@ -29,7 +29,7 @@ POINT MiddleOfVisible(const Rect& area, SIZE client) noexcept {
 
 void ThumbnailControl::OnWindowCreated() {
     // A thread without OLE, or a container that has made the window its own drop target: no drops here.
-    Guard(__uuidof(IqzThumbnailCtrl), [this] { dropTarget_ = PageDropRegistration(WindowHandle(), *this); });
+    Run([this] { dropTarget_ = PageDropRegistration(WindowHandle(), *this); });
 }
 
 std::optional<LRESULT> ThumbnailControl::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -197,7 +197,7 @@ bool ThumbnailControl::OnKeyDown(WPARAM key) {
             OnReturn();
             return true;
         case VK_DELETE:
-            Run(PageCommand::Delete);
+            RunCommand(PageCommand::Delete);
             return true;
         default:
             return OnControlKey(key);
@@ -212,13 +212,13 @@ bool ThumbnailControl::OnControlKey(WPARAM key) {
             Show(model_.Selection().SelectAll());
             return true;
         case 'C':
-            Run(PageCommand::Copy);
+            RunCommand(PageCommand::Copy);
             return true;
         case 'X':
-            Run(PageCommand::Cut);
+            RunCommand(PageCommand::Cut);
             return true;
         case 'V':
-            Run(PageCommand::Paste);
+            RunCommand(PageCommand::Paste);
             return true;
         default:
             return false;
@@ -285,7 +285,7 @@ bool ThumbnailControl::OnContextMenu(WPARAM wParam, LPARAM lParam) {
     const std::uint64_t generation = model_.Generation();
     if (!host || !WindowHandle()) return true;
     const auto command = ShowPageMenu(WindowHandle(), screen, TextLanguage(), CommandState());
-    if (command && StillShows(host, generation)) Run(*command);
+    if (command && StillShows(host, generation)) RunCommand(*command);
     return true;
 }
 

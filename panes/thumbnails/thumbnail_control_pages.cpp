@@ -1,6 +1,7 @@
 // What the pane does with the selected pages: delete, cut, copy, paste, drag and drop.
 #include "host/auto_refresh.h"
 #include "host/host_calls.h"
+#include "panes/common/asked_by_user.h"
 #include "panes/thumbnails/drag_rules.h"
 #include "panes/thumbnails/page_clipboard.h"
 #include "panes/thumbnails/page_drag.h"
@@ -41,8 +42,8 @@ PageCommandState ThumbnailControl::CommandState() const {
 
 /// A command by key or menu. Where it cannot be given nothing happens, but for deleting everything, which is
 /// refused with a message.
-void ThumbnailControl::Run(PageCommand command) {
-    try {
+void ThumbnailControl::RunCommand(PageCommand command) {
+    AskedByUser([&] {
         switch (command) {
             case PageCommand::Cut:
                 return Cut();
@@ -53,10 +54,7 @@ void ThumbnailControl::Run(PageCommand command) {
             case PageCommand::Delete:
                 return DeleteSelected();
         }
-    } catch (...) {
-        MessageBeep(MB_ICONWARNING);  // the user has asked for it and is told that it failed
-        throw;
-    }
+    });
 }
 
 void ThumbnailControl::Copy() {
@@ -132,9 +130,7 @@ void ThumbnailControl::ChangePages(const ComPtr<IVandraX>& host, Change&& change
 
 /// Nobody will tell the pane again of what it has changed itself: one failure is not taken as final.
 void ThumbnailControl::FollowOwnChange() {
-    const auto follow = [this] {
-        return Guard(__uuidof(IqzThumbnailCtrl), [this] { Follow(Pages::Changed); });
-    };
+    const auto follow = [this] { return Run([this] { Follow(Pages::Changed); }); };
     if (FAILED(follow()) && Host()) follow();
 }
 

@@ -15,22 +15,22 @@ enum EventId : DISPID {
 
 }  // namespace
 
-bool ThumbnailEvents::ThumbActivated(long page) { return Ask(thumbActivated, {EventArgument(page)}); }
+bool ThumbnailEvents::ThumbActivated(long page) { return events_.Ask(thumbActivated, {EventArgument(page)}); }
 
-bool ThumbnailEvents::DeleteSelectedPages() { return Ask(deleteSelectedPages, {}); }
+bool ThumbnailEvents::DeleteSelectedPages() { return events_.Ask(deleteSelectedPages, {}); }
 
-void ThumbnailEvents::ThumbSelected(long page) { Raise(thumbSelected, {EventArgument(page)}); }
+void ThumbnailEvents::ThumbSelected(long page) { events_.Raise(thumbSelected, {EventArgument(page)}); }
 
 bool ThumbnailEvents::ShowMessage(qzThumbnailCtrlShowMsgConsts message) {
-    return Ask(showMessage, {EventArgument(static_cast<long>(message))});
+    return events_.Ask(showMessage, {EventArgument(static_cast<long>(message))});
 }
 
 bool ThumbnailEvents::ProcessingProgress(long totalSteps, long currentStep) {
-    return Ask(processingProgress, {EventArgument(totalSteps), EventArgument(currentStep)});
+    return events_.Ask(processingProgress, {EventArgument(totalSteps), EventArgument(currentStep)});
 }
 
 bool ThumbnailEvents::ContextSensitiveMenu(long x, long y) {
-    return Ask(contextSensitiveMenu, {EventArgument(x), EventArgument(y)});
+    return events_.Ask(contextSensitiveMenu, {EventArgument(x), EventArgument(y)});
 }
 
 }  // namespace qz

@@ -8,12 +8,9 @@
 namespace qz {
 
 /// The events of `_IqzThumbnailCtrlEvents`. Those that can be vetoed return whether the pane shall go on.
-class ThumbnailEvents : private PaneEvents {
+class ThumbnailEvents {
   public:
-    ThumbnailEvents(IUnknown* owner, std::function<bool()> frozen)
-        : PaneEvents(owner, DIID__IqzThumbnailCtrlEvents, std::move(frozen)) {}
-
-    using PaneEvents::Point;
+    explicit ThumbnailEvents(PaneEvents& events) noexcept : events_(events) {}
 
     bool ThumbActivated(long page);
     bool DeleteSelectedPages();
@@ -24,6 +21,9 @@ class ThumbnailEvents : private PaneEvents {
     bool ProcessingProgress(long totalSteps, long currentStep);
     /// Screen pixels. Whether the pane shall show its own menu.
     bool ContextSensitiveMenu(long x, long y);
+
+  private:
+    PaneEvents& events_;
 };
 
 }  // namespace qz

@@ -21,25 +21,22 @@ bool IsSet(const VARIANT& value) noexcept {
 
 }  // namespace
 
-PropControl::PropControl()
-    : events_(Identity(), DIID__IqzPropCtrlEvents, [this] { return EventsFrozen(); }) {}
-
 // Members
 // ------------------------------------------------------------------------------------------------------
 
 STDMETHODIMP PropControl::put_VandraX(IDispatch* newVal) {
     const ComPtr<IUnknown> alive = Identity();
-    const HRESULT left = Guard(__uuidof(IqzPropCtrl), [&]() -> HRESULT {
-        if (Host()) return ResetPane(__uuidof(IqzPropCtrl));
+    const HRESULT left = Run([&]() -> HRESULT {
+        if (Host()) return ResetPane();
         SetObject(nullptr);  // one that was put before any host
         return S_OK;
     });
     if (FAILED(left) || !newVal) return left;
-    return InitializePane(__uuidof(IqzPropCtrl), newVal);
+    return InitializePane(newVal);
 }
 
 STDMETHODIMP PropControl::get_VandraX(IDispatch** pVal) {
-    return Guard(__uuidof(IqzPropCtrl), [&] {
+    return Run([&] {
         RequirePointer(pVal);
         *pVal = nullptr;
         if (Host()) ThrowIfFailed(Host()->QueryInterface(IID_PPV_ARGS(pVal)));
@@ -47,20 +44,18 @@ STDMETHODIMP PropControl::get_VandraX(IDispatch** pVal) {
 }
 
 STDMETHODIMP PropControl::put_Object(IDispatch* newVal) {
-    const ComPtr<IUnknown> alive = Identity();
-    return Guard(__uuidof(IqzPropCtrl), [&] { SetObject(newVal); });
+    return Run([&] { SetObject(newVal); });
 }
 
 STDMETHODIMP PropControl::get_Object(IDispatch** pVal) {
-    return Guard(__uuidof(IqzPropCtrl), [&] {
+    return Run([&] {
         RequirePointer(pVal);
         ComPtr<IDispatch>(object_).CopyTo(pVal);
     });
 }
 
 STDMETHODIMP PropControl::get_SelectionName(BSTR* pVal) {
-    const ComPtr<IUnknown> alive = Identity();
-    return Guard(__uuidof(IqzPropCtrl), [&] {
+    return Run([&] {
         RequirePointer(pVal);
         *pVal = nullptr;
         const ComPtr<IVandraX> host = Host();
@@ -78,8 +73,7 @@ STDMETHODIMP PropControl::get_SelectionName(BSTR* pVal) {
 }
 
 STDMETHODIMP PropControl::Closing(long* pAnswer) {
-    const ComPtr<IUnknown> alive = Identity();
-    return Guard(__uuidof(IqzPropCtrl), [&] {
+    return Run([&] {
         RequirePointer(pAnswer);
         CloseEditor();
         if (!ConfirmationWanted()) return;
@@ -96,7 +90,7 @@ STDMETHODIMP PropControl::Closing(long* pAnswer) {
         *pAnswer = answer;
         switch (static_cast<ClosingAnswer>(answer)) {
             case ClosingAnswer::Yes:
-                ThrowIfFailed(ResetPane(__uuidof(IqzPropCtrl)));
+                ThrowIfFailed(ResetPane());
                 break;
             case ClosingAnswer::No:
                 changes->TakeBack([&](const AttributeChange& change) { TakeBack(*members, change); });
@@ -221,7 +215,7 @@ void PropControl::SetObject(const ComPtr<IDispatch>& object) {
         reason = error.text;
     }
     if (stage != objectStage_) return;
-    if (TakeNews() && stage == objectStage_) events_.Raise(3);
+    if (TakeNews() && stage == objectStage_) Events().Raise(3);
     if (FAILED(failure)) Rethrow(failure, reason);
 }
 

@@ -2,10 +2,8 @@
 #pragma once
 
 #include "com/class_info.h"
-#include "com/connection_points.h"
 #include "com/dispatch.h"
 #include "panes/common/pane_control.h"
-#include "panes/common/pane_events.h"
 #include "properties/editors/edited_attribute.h"
 #include "properties/inspector/inspector_dialog.h"
 #include "properties/editors/value_dlg.h"
@@ -23,13 +21,11 @@ namespace qz {
 /// See the type library for the members. Without an object the inspector shows nothing. What it shows it
 /// reads from the host when it shows it; it keeps no values but the old ones of what it changed.
 class PropControl final
-    : public Object<PropControl, PaneControl, Dispatch<IqzPropCtrl>,
-                    ProvideClassInfo<CLSID_qzPropCtrl, DIID__IqzPropCtrlEvents>, ConnectionPointContainer>,
+    : public Object<PropControl, PaneOf<IqzPropCtrl, DIID__IqzPropCtrlEvents>, Dispatch<IqzPropCtrl>,
+                    ProvideClassInfo<CLSID_qzPropCtrl, DIID__IqzPropCtrlEvents>>,
       private InspectorDialogListener,
       private ValueDlgSite {
   public:
-    PropControl();
-
     /// The put lets go of the object and of the host before; E_NOINTERFACE and the like for what is no host,
     /// null for none.
     STDMETHODIMP put_VandraX(IDispatch* newVal) override;
@@ -52,7 +48,6 @@ class PropControl final
   private:
     // prop_control.cpp: members, host and object
     REFCLSID ClassId() const noexcept override { return CLSID_qzPropCtrl; }
-    std::vector<ConnectionPoint*> Points() override { return {&events_.Point(), &PropertyNotifyPoint()}; }
     void ShowDocument() override;
     void ForgetDocument() override;
     void FollowHost() override;
@@ -108,7 +103,6 @@ class PropControl final
     /// The inner dialog is hidden without one.
     bool ShowsObject() const noexcept { return object_ && Host(); }
 
-    PaneEvents events_;
     std::shared_ptr<HostMembers> members_;
     ComPtr<IDispatch> object_;
     ComPtr<IDispatch> toldObject_;  ///< The one that the container was told of last.

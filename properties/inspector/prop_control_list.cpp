@@ -218,9 +218,9 @@ void PropControl::OnRestoreKey() {
     if (editor) editor->Restore();
 }
 
-void PropControl::OpeningChildDialog() { events_.Raise(1); }
+void PropControl::OpeningChildDialog() { Events().Raise(1); }
 
-void PropControl::ClosingChildDialog() { events_.Raise(2); }
+void PropControl::ClosingChildDialog() { Events().Raise(2); }
 
 void PropControl::ValuesChanged() {
     if (editor_ && DialogWindow()) dialog_->SetSeveralValues(editor_->ShowsSeveralValues());
