@@ -35,10 +35,11 @@ STDMETHODIMP BookmarkControl::Refresh() {
 STDMETHODIMP BookmarkControl::ExpandAll() {
     return Run([this]() -> HRESULT {
         if (othersTurn_) return S_FALSE;
-        const ComPtr<IVandraX> host = Host();
+        const ShownDocument shown = Shown();
         const HRESULT result = Rebuild(everyLevel);
-        const bool stillShown = SameObject(Host(), host);  // or the tree is another host's by now
-        if (result == S_OK && stillShown && tree_ && tree_.Root()) tree_.Expand(tree_.Root(), TVE_EXPAND);
+        // By now the tree may be another host's.
+        if (result == S_OK && !shown.HostLeft() && tree_ && tree_.Root())
+            tree_.Expand(tree_.Root(), TVE_EXPAND);
         return result;
     });
 }

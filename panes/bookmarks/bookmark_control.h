@@ -58,8 +58,9 @@ class BookmarkControl final
     void ShowDocument() override;
     void ForgetDocument() override;
     void FollowHost() override;
+    const Stage& Contents() const noexcept override { return tree_.Contents(); }
     HRESULT Rebuild(const OutlineLimits& limits);
-    HRESULT ReadOutline(const ComPtr<IVandraX>& host, const OutlineLimits& limits);
+    HRESULT ReadOutline(const ShownDocument& shown, const OutlineLimits& limits);
     OutlineOutcome BuildTree(IDispatch* root, BookmarkReader reader, HostSilence& silence,
                              const OutlineLimits& limits);
     template <class Reading>

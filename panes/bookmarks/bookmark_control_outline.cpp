@@ -36,7 +36,7 @@ class FlagScope {
 /// While it lasts the host does not refresh itself, and what it tells is not followed.
 class BookmarkControl::HostSilence {
   public:
-    HostSilence(BookmarkControl& pane, const ComPtr<IVandraX>& host) : pane_(pane), host_(host) { Begin(); }
+    HostSilence(BookmarkControl& pane, const ShownDocument& shown) : pane_(pane), shown_(shown) { Begin(); }
 
     void End() noexcept {
         suspended_.reset();
@@ -44,17 +44,17 @@ class BookmarkControl::HostSilence {
     }
     /// Nothing for a host that is no longer the pane's.
     void Resume() {
-        if (SameObject(pane_.Host(), host_)) Begin();
+        if (!shown_.HostLeft()) Begin();
     }
 
   private:
     void Begin() {
         ours_.emplace(pane_);
-        suspended_.emplace(host_.Get());
+        suspended_.emplace(shown_.Host().Get());
     }
 
     BookmarkControl& pane_;
-    ComPtr<IVandraX> host_;
+    ShownDocument shown_;
     std::optional<OwnHostCalls> ours_;
     std::optional<qzVandraAutoRefresh> suspended_;
 };
@@ -114,11 +114,11 @@ void BookmarkControl::ForgetDocument() {
 }
 
 void BookmarkControl::FollowHost() {
-    const ComPtr<IVandraX> host = Host();
-    const ChangeFlags changes = ChangesOf(host.Get());
+    const ShownDocument shown = Shown();
+    const ChangeFlags changes = ChangesOf(shown.Host().Get());
     const bool modeChanged = changes.Any(change::mode);
-    const long mode = modeChanged ? ModeOf(host.Get()) : 0;
-    if (!SameObject(Host(), host)) return;  // another one was attached meanwhile, and read
+    const long mode = modeChanged ? ModeOf(shown.Host().Get()) : 0;
+    if (shown.HostLeft()) return;  // another one was attached meanwhile, and read
     if (modeChanged) documentMode_ = mode;
     if (changes.Any(change::outline)) Rebuild(oneLevel);
 }
@@ -133,11 +133,11 @@ HRESULT BookmarkControl::Rebuild(const OutlineLimits& limits) {
         refreshAsked_ = true;
         return S_OK;
     }
-    const ComPtr<IVandraX> host = Host();
-    if (!host || refreshing_) return S_OK;
+    const ShownDocument shown = Shown();
+    if (!shown.Host() || refreshing_) return S_OK;
     return EndableByRefresh([&] {
         const FlagScope refreshing(refreshing_);
-        return ReadOutline(host, limits);
+        return ReadOutline(shown, limits);
     });
 }
 
@@ -156,9 +156,10 @@ HRESULT BookmarkControl::EndableByRefresh(Reading&& reading) {
     return S_FALSE;
 }
 
-HRESULT BookmarkControl::ReadOutline(const ComPtr<IVandraX>& host, const OutlineLimits& limits) {
-    HostSilence silence(*this, host);
-    if (!SameObject(Host(), host)) ThrowReplaced();  // what the tree shows is another host's by now
+HRESULT BookmarkControl::ReadOutline(const ShownDocument& shown, const OutlineLimits& limits) {
+    const ComPtr<IVandraX>& host = shown.Host();
+    HostSilence silence(*this, shown);
+    if (shown.HostLeft()) ThrowReplaced();  // what the tree shows is another host's by now
     tree_.Clear();
     const BookmarkReader reader = MakeReader(host);
     long state = 0;
@@ -207,9 +208,7 @@ BookmarkControl::OutlineOutcome BookmarkControl::BuildTree(IDispatch* root, Book
 
 /// A reader that stops when the host or the tree is no longer what it is now.
 BookmarkReader BookmarkControl::MakeReader(const ComPtr<IVandraX>& host) const {
-    return BookmarkReader(members_, [this, host, version = tree_.Version()] {
-        return SameObject(Host(), host) && tree_.Version() == version && !refreshAsked_;
-    });
+    return BookmarkReader(members_, [this, shown = Shown(host)] { return !shown.Stale() && !refreshAsked_; });
 }
 
 // Expanding, collapsing, activating

@@ -47,14 +47,14 @@ class CountedItems {
 void BookmarkTree::Create(HWND parent, const wchar_t* name) {
     TreeView::Create(parent, name, treeStyle, treeId);
     parents_.clear();
-    ++version_;
+    contents_.Next();
 }
 
 // Items
 // --------------------------------------------------------------------------------------------------------
 
 void BookmarkTree::Clear() {
-    ++version_;
+    contents_.Next();
     if (!Handle()) return;
     const TreeRedrawScope still(*this);
     DeleteBelow(TVI_ROOT);
@@ -118,9 +118,9 @@ void BookmarkTree::CollapseAll() {
     Expand(nullptr, TVE_COLLAPSE);
     std::vector<std::pair<HTREEITEM, std::uint64_t>> parents(parents_.begin(), parents_.end());
     std::ranges::sort(parents, {}, &std::pair<HTREEITEM, std::uint64_t>::second);
-    const std::uint64_t version = version_;
+    const Stage::Mark shown = contents_.Now();
     for (const auto& [item, turn] : parents) {
-        if (version_ != version) return;  // somebody else who looks at the messages has emptied the tree
+        if (shown.Stale()) return;  // somebody else who looks at the messages has emptied the tree
         if (Expanded(item)) Expand(item, TVE_COLLAPSE);
     }
 }
@@ -134,7 +134,7 @@ void BookmarkTree::OnDeleted(HTREEITEM item, LPARAM data) {
     parents_.erase(item);
     IDispatch* const bookmark = reinterpret_cast<IDispatch*>(data);
     if (!bookmark) return;
-    ++version_;
+    contents_.Next();
     if (!deleting_) {
         bookmark->Release();
         return;
@@ -235,8 +235,8 @@ std::optional<LRESULT> BookmarkTree::OnKey(WPARAM key) {
 /// False when the item must not be expanded now: its children cannot be read, or it is gone.
 bool BookmarkTree::EnsureRead(HTREEITEM item) {
     if (!Unread(item)) return true;
-    const std::uint64_t version = version_;
-    return listener_.ReadBelow(item) && Handle() && version == version_;
+    const Stage::Mark shown = contents_.Now();
+    return listener_.ReadBelow(item) && Handle() && !shown.Stale();
 }
 
 }  // namespace qz

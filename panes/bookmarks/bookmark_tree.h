@@ -2,6 +2,7 @@
 #pragma once
 
 #include "panes/bookmarks/bookmark_reader.h"
+#include "panes/common/stage.h"
 #include "panes/common/tree_view.h"
 
 #include <cstdint>
@@ -43,8 +44,8 @@ class BookmarkTree final : public TreeView {
     /// Deletes all items.
     void Clear();
 
-    /// Another number after bookmarks have gone from the tree: items known before may be gone too.
-    std::uint64_t Version() const noexcept { return version_; }
+    /// Another one after bookmarks have gone from the tree: items known before may be gone too.
+    const Stage& Contents() const noexcept { return contents_; }
 
     /// Null for a placeholder.
     ComPtr<IDispatch> BookmarkOf(HTREEITEM item) const;
@@ -77,7 +78,7 @@ class BookmarkTree final : public TreeView {
     void ShowImage(HTREEITEM item);
 
     BookmarkTreeListener& listener_;
-    std::uint64_t version_ = 0;
+    Stage contents_;
     bool opening_ = false;  ///< `Open` is at work: nothing is to be read, and it sets the image itself.
     int deleting_ = 0;      ///< Deletions of the tree's own under way; their bookmarks gather in `deleted_`.
     std::vector<ComPtr<IDispatch>> deleted_;

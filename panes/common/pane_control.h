@@ -4,6 +4,7 @@
 #include "com/connection_points.h"
 #include "host/host_binding.h"
 #include "panes/common/pane_events.h"
+#include "panes/common/stage.h"
 #include "res/language.h"
 #include "ui/control.h"
 
@@ -71,6 +72,8 @@ class PaneControl : public Control, public ConnectionPointContainer, private Hos
     virtual void ForgetDocument() = 0;
     /// The host changed. Inside its event; what this throws is told nobody.
     virtual void FollowHost() = 0;
+    /// What the pane has read of the document. A pane that keeps its stage elsewhere says where.
+    virtual const Stage& Contents() const noexcept { return contents_; }
     /// The pane is being reset and still has its host.
     virtual void OnReset() {}
 
@@ -79,6 +82,31 @@ class PaneControl : public Control, public ConnectionPointContainer, private Hos
 
     /// Null without one. A caller that makes several calls keeps a reference.
     const ComPtr<IVandraX>& Host() const noexcept { return binding_.Host(); }
+    /// What the pane shows at one moment, to be asked after foreign code has run. The caller keeps the pane
+    /// alive.
+    class ShownDocument {
+      public:
+        ShownDocument(const PaneControl& pane, const ComPtr<IVandraX>& host) noexcept
+            : pane_(pane), host_(host), contents_(pane.Contents().Now()) {}
+
+        /// Null without one.
+        const ComPtr<IVandraX>& Host() const noexcept { return host_; }
+        /// Another host was attached meanwhile, or this one was let go of.
+        bool HostLeft() const noexcept { return !SameObject(pane_.Host(), host_); }
+        /// The contents are no longer those, or there is no host: indexes and page numbers mean nothing.
+        bool Stale() const noexcept { return !host_ || HostLeft() || contents_.Stale(); }
+
+      private:
+        const PaneControl& pane_;
+        ComPtr<IVandraX> host_;
+        Stage::Mark contents_;
+    };
+    ShownDocument Shown() const noexcept { return ShownDocument(*this, Host()); }
+    /// The same with a host that was looked at before.
+    ShownDocument Shown(const ComPtr<IVandraX>& host) const noexcept { return ShownDocument(*this, host); }
+    /// To be called when other contents take the place of those there were.
+    void ContentsReplaced() noexcept { contents_.Next(); }
+
     PaneEvents& Events() noexcept { return events_; }
     /// The language of the host's user, for the texts that they see.
     Language TextLanguage() const { return LanguageFromId(binding_.LanguageId()); }
@@ -104,6 +132,7 @@ class PaneControl : public Control, public ConnectionPointContainer, private Hos
     IID members_;
     PaneEvents events_;
     HostBinding binding_{*this};
+    Stage contents_;
     int ownHostCalls_ = 0;
 };
 

@@ -101,28 +101,28 @@ void LayersControl::ForgetDocument() { Take({}); }
 
 /// Throws the first failure; what was read until then is shown.
 void LayersControl::Rebuild() {
-    const ComPtr<IVandraX> host = Host();
-    if (!host) return;
+    const ShownDocument shown = Shown();
+    if (!shown.Host()) return;
     LayerDocument document;
     const auto take = [&] {
-        if (SameObject(Host(), host)) Take(std::move(document));
+        if (!shown.HostLeft()) Take(std::move(document));
     };
     try {
         const OwnHostCalls ours(*this);
-        const qzVandraAutoRefresh suspended(host.Get());
-        ReadLayers(host.Get(), document);
+        const qzVandraAutoRefresh suspended(shown.Host().Get());
+        ReadLayers(shown.Host().Get(), document);
     } catch (...) {
         take();
         throw;
     }
     take();
-    if (SameObject(Host(), host)) List();
+    if (!shown.HostLeft()) List();
 }
 
 void LayersControl::Take(LayerDocument document) {
     const TreeState kept = KeptState();
     LayerPaths paths = PathsOf(document.records);
-    ++generation_;
+    ContentsReplaced();
     configurations_ = std::move(document.configurations);
     texts_ = std::move(document.texts);
     layers_.Start(std::move(document.records));
@@ -132,26 +132,21 @@ void LayersControl::Take(LayerDocument document) {
     FillTree(kept);
 }
 
-/// Whether, after foreign code has run, indexes taken before it still mean the same.
-bool LayersControl::StillShows(const ComPtr<IVandraX>& host, unsigned generation) const noexcept {
-    return host && SameObject(Host(), host) && generation_ == generation;
-}
-
 void LayersControl::FollowHost() {
-    const ComPtr<IVandraX> host = Host();
+    const ShownDocument shown = Shown();
     const OwnHostCalls ours(*this);
-    const ChangeFlags changes = ChangesOf(host.Get());
+    const ChangeFlags changes = ChangesOf(shown.Host().Get());
     if (changes.OnlyView()) return;
-    const LayerTexts texts = ReadLayerTexts(host.Get());
-    if (!SameObject(Host(), host)) return;
+    const LayerTexts texts = ReadLayerTexts(shown.Host().Get());
+    if (shown.HostLeft()) return;
     if (texts != texts_) return Rebuild();
-    ReadStates(host, changes.AnyOrUntold(namesChanged));
+    ReadStates(shown.Host(), changes.AnyOrUntold(namesChanged));
     if (changes.AnyOrUntold(pageChanged) && DependsOnPage(listLayers_)) List();
 }
 
 /// What the user chose stays; a layer that is gone lets everything be read anew.
 void LayersControl::ReadStates(const ComPtr<IVandraX>& host, bool names) {
-    const unsigned generation = generation_;
+    const ShownDocument shown = Shown(host);
     const LayerPaths paths = paths_;
     LayerAttributes attributes(host.Get());
     const std::vector<LayerRecord>& all = layers_.Records().All();
@@ -167,7 +162,7 @@ void LayersControl::ReadStates(const ComPtr<IVandraX>& host, bool names) {
             if (attributes.Exists((*paths)[i])) throw;
             return Rebuild();
         }
-        if (!StillShows(host, generation)) return;
+        if (shown.Stale()) return;
         layers_.TakeHostState(i, visible);
         if (!names || displayName == all[i].displayName) continue;
         layers_.TakeDisplayName(i, std::move(displayName));
@@ -197,13 +192,12 @@ std::vector<bool> LayersControl::LayersOnPage(IVandraX* host) const {
 
 /// Finds out which items are to be listed, and lists them when they are other ones.
 void LayersControl::List() {
-    const ComPtr<IVandraX> host = Host();
-    const unsigned generation = generation_;
-    if (!host) return;
+    const ShownDocument shown = Shown();
+    if (!shown.Host()) return;
     const OwnHostCalls ours(*this);
     std::optional<std::vector<bool>> onPage;
-    if (DependsOnPage(listLayers_)) onPage = LayersOnPage(host.Get());
-    if (!StillShows(host, generation)) return;
+    if (DependsOnPage(listLayers_)) onPage = LayersOnPage(shown.Host().Get());
+    if (shown.Stale()) return;
     const LayerRecords& records = layers_.Records();
     const bool all = listLayers_ == qzLayersCtrlListLayers_ForAllPages;
     std::vector<bool> listed =
@@ -220,29 +214,29 @@ void LayersControl::List() {
 /// Brings a change that has been made here to the host, and shows it. When the host fails, what it has not
 /// taken is taken back here.
 void LayersControl::Carry(const ComPtr<IVandraX>& host, const LayerChange& change) {
-    const unsigned generation = generation_;
+    const ShownDocument shown = Shown(host);
     const unsigned number = ++changes_;
     std::size_t written = 0;
     try {
         if (!change.writes.empty()) WriteChange(host.Get(), change, written);
     } catch (...) {
-        if (StillShows(host, generation) && changes_ == number) {
+        if (!shown.Stale() && changes_ == number) {
             layers_.Undo(change, written);
             ShowStates();
         }
         throw;
     }
-    if (StillShows(host, generation)) ShowStates();
+    if (!shown.Stale()) ShowStates();
 }
 
 void LayersControl::WriteChange(IVandraX* host, const LayerChange& change, std::size_t& written) {
-    const unsigned generation = generation_;
+    const ShownDocument shown = Shown(host);
     const OwnHostCalls ours(*this);
     const qzVandraAutoRefresh suspended(host);
     const LayerPaths paths = paths_;
     LayerAttributes attributes(host);
     for (const LayerWrite& write : change.writes) {
-        if (Host().Get() != host || generation_ != generation) return;
+        if (shown.Stale()) return;
         // The host may have come back here, and the layer may be wanted otherwise by now.
         if (layers_.Records().All()[write.record].visible == write.visible) {
             attributes.WriteVisible((*paths)[write.record], write.visible);

@@ -54,7 +54,6 @@ class LayersControl final
 
     void Rebuild();
     void Take(LayerDocument document);
-    bool StillShows(const ComPtr<IVandraX>& host, unsigned generation) const noexcept;
     void ReadStates(const ComPtr<IVandraX>& host, bool names);
     std::vector<bool> LayersOnPage(IVandraX* host) const;
     void List();
@@ -110,7 +109,6 @@ class LayersControl final
     LayerPaths paths_ = PathsOf({});
     std::vector<bool> listed_;        ///< By item.
     std::vector<HTREEITEM> handles_;  ///< By item; null for those not listed.
-    unsigned generation_ = 0;         ///< Counts the records' rebuilds: after one, indexes mean nothing.
     unsigned changes_ = 0;            ///< Counts the changes made here.
     long fitToParent_ = 1;
     long locked_ = 0;

@@ -106,11 +106,10 @@ void LayersControl::OnSpace() {
 
 /// The container is asked first; the selection stays when it does not want another.
 void LayersControl::OnSelect(HTREEITEM handle) {
-    const ComPtr<IVandraX> host = Host();
-    const unsigned generation = generation_;
+    const ShownDocument shown = Shown();
     const auto item = ItemOf(handle);
     if (!item || !events_.LayerActivated()) return;
-    if (StillShows(host, generation) && tree_ && handles_[*item] == handle) tree_.Select(handle);
+    if (!shown.Stale() && tree_ && handles_[*item] == handle) tree_.Select(handle);
 }
 
 /// A click on a heading's text or on a layer that is locked does nothing.
@@ -130,10 +129,9 @@ void LayersControl::ToggleByUser(std::size_t record) {
 }
 
 void LayersControl::RefuseBelowHidden() {
-    const ComPtr<IVandraX> host = Host();
-    const unsigned generation = generation_;
+    const ShownDocument shown = Shown();
     if (!events_.ShowMessage(qzLayersCtrlShowMsgConsts_LayerDisabledBecauseParentDisabled)) return;
-    if (!StillShows(host, generation) || !WindowHandle()) return;
+    if (shown.Stale() || !WindowHandle()) return;
     ShowMessageBox(LoadText(TextLanguage(), QZ_TEXT_LAYER_ABOVE_HIDDEN), MB_OK | MB_ICONINFORMATION);
 }
 
@@ -149,17 +147,16 @@ bool LayersControl::OnContextMenu(WPARAM wParam, LPARAM lParam) {
         if (place == HTVSCROLL || place == HTHSCROLL) return false;
     }
     if (std::exchange(lastMenuRequest_, request) == request) return true;
-    const ComPtr<IVandraX> host = Host();
-    const unsigned generation = generation_;
+    const ShownDocument shown = Shown();
     const bool aboutSelection = IsAboutSelection(request);
     const POINT screen = request.ByKeyboard() ? KeyboardMenuPoint() : request.ScreenPoint();
     if (!events_.ContextSensitiveMenu(screen.x, screen.y)) return true;
-    if (!StillShows(host, generation) || !WindowHandle()) return true;
+    if (shown.Stale() || !WindowHandle()) return true;
     LayerCommandState state = CommandState();
     state.layerSelected = state.layerSelected && aboutSelection;
     const auto command = ShowLayerMenu(WindowHandle(), screen, TextLanguage(), state);
-    if (command && StillShows(host, generation) && CommandState().Enables(*command)) {
-        AskedByUser([&] { RunCommand(*command, host); });
+    if (command && !shown.Stale() && CommandState().Enables(*command)) {
+        AskedByUser([&] { RunCommand(*command, shown.Host()); });
     }
     return true;
 }

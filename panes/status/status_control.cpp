@@ -99,11 +99,11 @@ void StatusControl::FollowHost() { ReadHost(); }
 /// Reads one value. What the host fails to tell stays as it is, and so does what belongs to another host by
 /// now: false.
 template <class Value, class Read>
-bool StatusControl::ReadInto(const ComPtr<IVandraX>& host, Value& value, Read&& read) {
-    if (!SameObject(Host(), host)) return false;
+bool StatusControl::ReadInto(const ShownDocument& shown, Value& value, Read&& read) {
+    if (shown.HostLeft()) return false;
     const HRESULT result = Run([&] {
         auto told = read();
-        if (!SameObject(Host(), host)) return S_FALSE;
+        if (shown.HostLeft()) return S_FALSE;
         value = std::move(told);
         return S_OK;
     });
@@ -112,24 +112,24 @@ bool StatusControl::ReadInto(const ComPtr<IVandraX>& host, Value& value, Read&& 
 }
 
 void StatusControl::ReadHost() {
-    const ComPtr<IVandraX> host = Host();
-    if (!host) return;
+    const ShownDocument shown = Shown();
+    if (!shown.Host()) return;
     {
         const OwnHostCalls ours(*this);
-        ReadInto(host, values_.pageSize, [&] { return ReadCurrentPageSize(host.Get()); });
-        ReadInto(host, values_.position, [&] { return ReadPagePosition(host.Get()); });
-        ReadInto(host, values_.zoom, [&] { return ReadZoom(host.Get()); });
-        ReadObject(host);
+        ReadInto(shown, values_.pageSize, [&] { return ReadCurrentPageSize(shown.Host().Get()); });
+        ReadInto(shown, values_.position, [&] { return ReadPagePosition(shown.Host().Get()); });
+        ReadInto(shown, values_.zoom, [&] { return ReadZoom(shown.Host().Get()); });
+        ReadObject(shown);
     }
     ShowFields();
 }
 
-void StatusControl::ReadObject(const ComPtr<IVandraX>& host) {
+void StatusControl::ReadObject(const ShownDocument& shown) {
     ComPtr<IDispatch> object;
-    if (!ReadInto(host, object, [&] { return ReadSelectedObject(host.Get()); })) return;
+    if (!ReadInto(shown, object, [&] { return ReadSelectedObject(shown.Host().Get()); })) return;
     if (object) {
-        ReadInto(host, values_.objectName, [&] { return ReadObjectName(object.Get()); });
-        ReadInto(host, values_.objectRect, [&] { return ReadObjectRect(object.Get()); });
+        ReadInto(shown, values_.objectName, [&] { return ReadObjectName(object.Get()); });
+        ReadInto(shown, values_.objectRect, [&] { return ReadObjectRect(object.Get()); });
     } else {
         values_.objectName.clear();
         values_.objectRect.reset();

@@ -43,9 +43,9 @@ class StatusControl final
     HRESULT TellVisible(StatusField field, VARIANT_BOOL* answer) const;
     HRESULT MakeVisible(StatusField field, VARIANT_BOOL visible);
     void ReadHost();
-    void ReadObject(const ComPtr<IVandraX>& host);
+    void ReadObject(const ShownDocument& shown);
     template <class Value, class Read>
-    bool ReadInto(const ComPtr<IVandraX>& host, Value& value, Read&& read);
+    bool ReadInto(const ShownDocument& shown, Value& value, Read&& read);
     StatusContent Content() const;
     void ShowFields();
 
@@ -72,7 +72,7 @@ class StatusControl final
     bool Apply(StatusField entry);
     void ApplyText(StatusField entry, const std::wstring& text);
     void Step(PageStep step);
-    void GoToPage(const ComPtr<IVandraX>& host, std::int32_t page) const;
+    void GoToPage(const ShownDocument& shown, std::int32_t page) const;
     void ChooseUnit(POINT screen);
     void GiveFocusBack();
 

@@ -199,36 +199,35 @@ bool StatusControl::Apply(StatusField entry) {
 }
 
 void StatusControl::ApplyText(StatusField entry, const std::wstring& text) {
-    const ComPtr<IVandraX> host = Host();
-    if (!host) return;
+    const ShownDocument shown = Shown();
+    if (!shown.Host()) return;
     {
         const OwnHostCalls ours(*this);
         if (entry == StatusField::Zoom) {
             const std::optional<std::int32_t> zoom = ParseZoom(text);
-            if (zoom) ThrowIfFailed(host->SetZoom(*zoom), L"The host does not take the zoom");
+            if (zoom) ThrowIfFailed(shown.Host()->SetZoom(*zoom), L"The host does not take the zoom");
         } else {
             const std::optional<std::int32_t> page =
-                ParsePage(text, static_cast<std::int32_t>(PageCountOf(host.Get())));
-            if (page) GoToPage(host, *page);
+                ParsePage(text, static_cast<std::int32_t>(PageCountOf(shown.Host().Get())));
+            if (page) GoToPage(shown, *page);
         }
     }
     ReadHost();
 }
 
 /// A host that was let go while it was asked for its pages stays where it is.
-void StatusControl::GoToPage(const ComPtr<IVandraX>& host, std::int32_t page) const {
-    if (!SameObject(Host(), host)) return;
-    MakePageCurrent(host.Get(), page);
+void StatusControl::GoToPage(const ShownDocument& shown, std::int32_t page) const {
+    if (!shown.HostLeft()) MakePageCurrent(shown.Host().Get(), page);
 }
 
 void StatusControl::Step(PageStep step) {
-    const ComPtr<IVandraX> host = Host();
-    if (!host) return;
+    const ShownDocument shown = Shown();
+    if (!shown.Host()) return;
     {
         const OwnHostCalls ours(*this);
-        const PagePosition position = ReadPagePosition(host.Get());
+        const PagePosition position = ReadPagePosition(shown.Host().Get());
         const std::optional<std::int32_t> target = StepTarget(step, position.page, position.count);
-        if (target) GoToPage(host, *target);
+        if (target) GoToPage(shown, *target);
     }
     ReadHost();
 }
@@ -269,14 +268,14 @@ bool StatusControl::OnContextMenu(WPARAM wParam, LPARAM lParam) {
 }
 
 void StatusControl::ChooseUnit(POINT screen) {
-    const ComPtr<IVandraX> host = Host();
-    if (!host) return;
+    const ShownDocument shown = Shown();
+    if (!shown.Host()) return;
     PopupMenu menu;
     UINT command = firstUnitCommand;
     for (const unsigned text : unitTexts) menu.Append(command++, LoadText(TextLanguage(), text));
     menu.CheckOne(firstUnitCommand, lastUnitCommand, firstUnitCommand + static_cast<UINT>(unit_));
     const UINT chosen = menu.Track(WindowHandle(), screen);
-    if (!chosen || !SameObject(Host(), host)) return;
+    if (!chosen || shown.HostLeft()) return;
     ThrowIfFailed(put_UnitOfMeasure(static_cast<StatusCtrlUnitsOfMeasure>(chosen - firstUnitCommand)));
     GiveFocusBack();
 }

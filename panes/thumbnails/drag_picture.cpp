@@ -45,8 +45,8 @@ DragPicture MakeDragPicture(ThumbnailPainter& painter, const ThumbnailModel& mod
         const MemoryDc memory;
         const SelectScope selected(memory.Get(), picture.pixels.Get());
         FillSolid(memory.Get(), {0, 0, cascade.size.width, cascade.size.height}, RGB(255, 255, 255));
-        const std::uint64_t generation = model.Generation();
-        for (std::size_t sheet = 0; sheet < cascade.sheets && model.Generation() == generation; ++sheet) {
+        const Stage::Mark shown = model.Contents().Now();
+        for (std::size_t sheet = 0; sheet < cascade.sheets && !shown.Stale(); ++sheet) {
             painter.DrawSheet(memory.Get(), sheets.indexes[sheet], ToPlatform(cascade.PlaceOf(sheet)), host,
                               factor);
         }

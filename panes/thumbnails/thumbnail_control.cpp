@@ -124,15 +124,15 @@ void ThumbnailControl::RebuildAndMarkCurrent() {
 }
 
 void ThumbnailControl::Rebuild() {
-    const ComPtr<IVandraX> host = Host();
+    const ShownDocument shown = Shown();
     std::vector<ThumbnailRecord> records;
     // The records there were stay until the new ones have been read: emptying the pane first would lose the
     // scroll position, and hide the scroll bar only to show it again.
     const auto take = [&] {
-        if (SameObject(Host(), host)) TakeRecords(std::move(records));
+        if (!shown.HostLeft()) TakeRecords(std::move(records));
     };
     try {
-        if (host) ReadRecords(host.Get(), records);
+        if (shown.Host()) ReadRecords(shown.Host().Get(), records);
     } catch (...) {
         take();
         throw;
@@ -166,16 +166,11 @@ void ThumbnailControl::ForgetDrag() {
     if (PageDrag* const drag = CurrentPageDrag()) drag->pages.clear();
 }
 
-/// Whether, after foreign code has run, page numbers and indexes taken before it still mean the same.
-bool ThumbnailControl::StillShows(const ComPtr<IVandraX>& host, std::uint64_t generation) const noexcept {
-    return host && SameObject(Host(), host) && model_.Generation() == generation;
-}
-
 void ThumbnailControl::MarkCurrent() {
-    const ComPtr<IVandraX> host = Host();
-    if (!host) return;
-    const long page = CurrentPageOf(host.Get());
-    if (!SameObject(Host(), host)) return;
+    const ShownDocument shown = Shown();
+    if (!shown.Host()) return;
+    const long page = CurrentPageOf(shown.Host().Get());
+    if (shown.HostLeft()) return;
     model_.MakeCurrent(page >= 1 ? std::optional(static_cast<std::size_t>(page) - 1) : std::nullopt);
     Invalidate();
 }
@@ -185,17 +180,17 @@ void ThumbnailControl::MarkCurrent() {
 
 /// Reads from the host what changed; that the pages did is known already when the pane itself changed them.
 void ThumbnailControl::Follow(Pages pages) {
-    const ComPtr<IVandraX> host = Host();
-    const long page = CurrentPageOf(host.Get());
-    const HostChange change{ChangesOf(host.Get())};
+    const ShownDocument shown = Shown();
+    const long page = CurrentPageOf(shown.Host().Get());
+    const HostChange change{ChangesOf(shown.Host().Get())};
     const bool changed = pages == Pages::Changed;
     if (change.Ignored() && !changed) return;
-    const long count = PageCountOf(host.Get());
-    if (!SameObject(Host(), host)) return;  // another one was attached meanwhile, and read
+    const long count = PageCountOf(shown.Host().Get());
+    if (shown.HostLeft()) return;  // another one was attached meanwhile, and read
     const bool recount = static_cast<std::size_t>(std::max(count, 0l)) != model_.Records().size();
     const bool rebuilt = changed || recount || change.PagesChanged();
     if (rebuilt) Rebuild();
-    if (!SameObject(Host(), host)) return;
+    if (shown.HostLeft()) return;
     const auto current = page >= 1 ? std::optional(static_cast<std::size_t>(page) - 1) : std::nullopt;
     model_.MakeCurrent(current);
     if (model_.Current()) {

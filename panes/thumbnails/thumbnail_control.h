@@ -62,6 +62,7 @@ class ThumbnailControl final
     void ShowDocument() override;
     void ForgetDocument() override;
     void FollowHost() override;
+    const Stage& Contents() const noexcept override { return model_.Contents(); }
     void OnReset() override;
 
     void RebuildAndMarkCurrent();
@@ -72,7 +73,6 @@ class ThumbnailControl final
     void TakeRecords(std::vector<ThumbnailRecord> records);
     void ForgetDrag();
     void MarkCurrent();
-    bool StillShows(const ComPtr<IVandraX>& host, std::uint64_t generation) const noexcept;
 
     // thumbnail_control_view.cpp: drawing and scrolling
     std::wstring Title() const override;
@@ -111,11 +111,11 @@ class ThumbnailControl final
     void Cut();
     void Paste();
     void DeleteSelected();
-    void DeletePagesOf(const ComPtr<IVandraX>& host, std::vector<long> pages);
+    void DeletePagesOf(const ShownDocument& shown, std::vector<long> pages);
     bool RefusesToDelete(IVandraX* host, std::size_t pages);
     void Refuse(qzThumbnailCtrlShowMsgConsts message, unsigned textId);
     template <class Change>
-    void ChangePages(const ComPtr<IVandraX>& host, Change&& change);
+    void ChangePages(const ShownDocument& shown, Change&& change);
     void FollowOwnChange();
     long InsertFrom(IDataObject* data, std::optional<std::size_t> target, std::vector<long> moved);
     long InsertionPoint(std::optional<std::size_t> target) const;

@@ -102,13 +102,12 @@ void ThumbnailControl::OnButtonUp(WPARAM keys) {
 }
 
 void ThumbnailControl::Click(std::size_t index, ClickModifiers modifiers) {
-    const ComPtr<IVandraX> host = Host();
-    const std::uint64_t generation = model_.Generation();
+    const ShownDocument shown = Shown();
     const bool plain = !modifiers.shift && !modifiers.control;
     if (plain && !events_.ThumbActivated(static_cast<long>(index) + 1)) return;
-    if (!StillShows(host, generation)) return;
+    if (shown.Stale()) return;
     Show(model_.Selection().Click(index, modifiers));
-    if (plain && StillShows(host, generation)) GoToPage(index);
+    if (plain && !shown.Stale()) GoToPage(index);
 }
 
 void ThumbnailControl::OnMouseMove(WPARAM keys, POINT point) {
@@ -123,12 +122,11 @@ void ThumbnailControl::OnMouseMove(WPARAM keys, POINT point) {
 bool ThumbnailControl::SystemSeesDrag(WPARAM keys) {
     if (!KeyIsDown(VK_LBUTTON)) return false;
     const std::optional<Press> press = press_;
-    const ComPtr<IVandraX> host = Host();
-    const std::uint64_t generation = model_.Generation();
+    const ShownDocument shown = Shown();
     POINT screen = press->point;
     ClientToScreen(WindowHandle(), &screen);
     const bool drags = DragDetect(WindowHandle(), screen) != FALSE;
-    if (!StillShows(host, generation) || !WindowHandle()) return false;
+    if (shown.Stale() || !WindowHandle()) return false;
     press_ = press;  // the detection took the capture, and the press went with it
     if (!drags && KeyIsDown(VK_LBUTTON)) press_.reset();  // cancelled by key
     if (!drags) OnButtonUp(keys);
@@ -236,10 +234,9 @@ void ThumbnailControl::ReadHeldKeys() noexcept { held_ = {KeyIsDown(VK_SHIFT), K
 void ThumbnailControl::OnReturn() {
     const auto bounds = model_.Selection().GetBounds();
     if (!bounds || bounds->first != bounds->last) return;
-    const ComPtr<IVandraX> host = Host();
-    const std::uint64_t generation = model_.Generation();
+    const ShownDocument shown = Shown();
     if (!events_.ThumbActivated(static_cast<long>(bounds->first) + 1)) return;
-    if (!StillShows(host, generation)) return;
+    if (shown.Stale()) return;
     if (scrollBar_.ScrollIntoView(WindowHandle(), bounds->first)) Invalidate();
     GoToPage(bounds->first);
 }
@@ -256,15 +253,15 @@ void ThumbnailControl::Show(const SelectionChange& change) {
 
 /// Marks the record as the current page and takes the host there.
 void ThumbnailControl::GoToPage(std::size_t index) {
-    const ComPtr<IVandraX> host = Host();
+    const ShownDocument shown = Shown();
     const std::optional<std::size_t> before = model_.Current();
     model_.MakeCurrent(index);
     if (before && *before < model_.Records().size()) InvalidateRecord(*before);
     InvalidateRecord(index);
     const long page = static_cast<long>(index) + 1;
-    const long current = CurrentPageOf(host.Get());
-    if (current == page || !SameObject(Host(), host)) return;
-    MakePageCurrent(host.Get(), page);
+    const long current = CurrentPageOf(shown.Host().Get());
+    if (current == page || shown.HostLeft()) return;
+    MakePageCurrent(shown.Host().Get(), page);
 }
 
 // Context menu
@@ -281,11 +278,10 @@ bool ThumbnailControl::OnContextMenu(WPARAM wParam, LPARAM lParam) {
     if (std::exchange(lastMenuRequest_, request) == request) return true;
     const POINT screen = request.ByKeyboard() ? KeyboardMenuPoint() : request.ScreenPoint();
     if (!events_.ContextSensitiveMenu(screen.x, screen.y)) return true;
-    const ComPtr<IVandraX> host = Host();
-    const std::uint64_t generation = model_.Generation();
-    if (!host || !WindowHandle()) return true;
+    const ShownDocument shown = Shown();
+    if (shown.Stale() || !WindowHandle()) return true;
     const auto command = ShowPageMenu(WindowHandle(), screen, TextLanguage(), CommandState());
-    if (command && StillShows(host, generation)) RunCommand(*command);
+    if (command && !shown.Stale()) RunCommand(*command);
     return true;
 }
 

@@ -66,12 +66,11 @@ void ThumbnailControl::Copy() {
 }
 
 void ThumbnailControl::Cut() {
-    const ComPtr<IVandraX> host = Host();
-    const std::uint64_t generation = model_.Generation();
+    const ShownDocument shown = Shown();
     const std::vector<long> pages = model_.Selection().Pages();
-    if (pages.empty() || RefusesToDelete(host.Get(), pages.size())) return;
+    if (pages.empty() || RefusesToDelete(shown.Host().Get(), pages.size())) return;
     Copy();
-    if (StillShows(host, generation)) DeletePagesOf(host, pages);
+    if (!shown.Stale()) DeletePagesOf(shown, pages);
 }
 
 void ThumbnailControl::Paste() {
@@ -84,12 +83,11 @@ void ThumbnailControl::Paste() {
 
 /// The container is asked first.
 void ThumbnailControl::DeleteSelected() {
-    const ComPtr<IVandraX> host = Host();
-    const std::uint64_t generation = model_.Generation();
+    const ShownDocument shown = Shown();
     const std::vector<long> pages = model_.Selection().Pages();
-    if (pages.empty() || RefusesToDelete(host.Get(), pages.size())) return;
-    if (!events_.DeleteSelectedPages() || !StillShows(host, generation)) return;
-    DeletePagesOf(host, pages);
+    if (pages.empty() || RefusesToDelete(shown.Host().Get(), pages.size())) return;
+    if (!events_.DeleteSelectedPages() || shown.Stale()) return;
+    DeletePagesOf(shown, pages);
 }
 
 /// One page must remain.
@@ -103,9 +101,9 @@ void ThumbnailControl::Refuse(qzThumbnailCtrlShowMsgConsts message, unsigned tex
     if (events_.ShowMessage(message)) ShowMessageBox(LoadText(TextLanguage(), textId), MB_OK);
 }
 
-void ThumbnailControl::DeletePagesOf(const ComPtr<IVandraX>& host, std::vector<long> pages) {
+void ThumbnailControl::DeletePagesOf(const ShownDocument& shown, std::vector<long> pages) {
     const bool focused = WindowHandle() && GetFocus() == WindowHandle();
-    ChangePages(host, [&] { DeletePages(host.Get(), std::move(pages)); });
+    ChangePages(shown, [&] { DeletePages(shown.Host().Get(), std::move(pages)); });
     // The host's view may have taken the focus when it was updated.
     if (focused && WindowHandle() && GetFocus() != WindowHandle()) SetFocus(WindowHandle());
 }
@@ -113,7 +111,8 @@ void ThumbnailControl::DeletePagesOf(const ComPtr<IVandraX>& host, std::vector<l
 /// Runs a change of the host's pages. Its many notifications are spared everyone: others are told once at the
 /// end, and the pane reads its records anew before that, also when the change failed midway.
 template <class Change>
-void ThumbnailControl::ChangePages(const ComPtr<IVandraX>& host, Change&& change) {
+void ThumbnailControl::ChangePages(const ShownDocument& shown, Change&& change) {
+    const ComPtr<IVandraX>& host = shown.Host();
     const OwnHostCalls ours(*this);
     const qzVandraAutoRefresh suspended(host.Get());
     std::exception_ptr failure;
@@ -123,7 +122,7 @@ void ThumbnailControl::ChangePages(const ComPtr<IVandraX>& host, Change&& change
         failure = std::current_exception();
     }
     host->UpdateView(change::pages, 1);
-    if (SameObject(Host(), host)) FollowOwnChange();
+    if (!shown.HostLeft()) FollowOwnChange();
     host->UpdateView(change::none, 0);
     if (failure) std::rethrow_exception(failure);
 }
@@ -142,14 +141,13 @@ void ThumbnailControl::FollowOwnChange() {
 /// the end, whatever comes between.
 long ThumbnailControl::InsertFrom(IDataObject* data, std::optional<std::size_t> target,
                                   std::vector<long> moved) {
-    const ComPtr<IVandraX> host = Host();
-    const std::uint64_t generation = model_.Generation();
+    const ShownDocument shown = Shown();
     const Insertion where{InsertionPoint(target), std::move(moved)};
     long inserted = 0;
     std::exception_ptr failure;
-    if (events_.ProcessingProgress(2, 1) && StillShows(host, generation)) {
+    if (events_.ProcessingProgress(2, 1) && !shown.Stale()) {
         try {
-            ChangePages(host, [&] { inserted = InsertPages(host.Get(), data, where); });
+            ChangePages(shown, [&] { inserted = InsertPages(shown.Host().Get(), data, where); });
         } catch (...) {
             failure = std::current_exception();
         }
@@ -190,18 +188,18 @@ void ThumbnailControl::StartDrag(bool copies) {
 }
 
 void ThumbnailControl::DragSelection(const ComPtr<IVandraX>& host, std::size_t pressed, DWORD allowed) {
-    const std::uint64_t generation = model_.Generation();
+    const ShownDocument shown = Shown(host);
     const std::vector<long> pages = model_.Selection().Pages();
     const DragPicture picture = PictureOfDrag(host.Get());
-    if (!StillShows(host, generation)) return;
+    if (shown.Stale()) return;
     PageDragResult result;
     {
         const DraggedRecordScope dragging(draggedRecord_, pressed);
         result = DragPages(host.Get(), pages, allowed, picture);
     }
-    if (!result.SourceDeletes() || !StillShows(host, generation)) return;
+    if (!result.SourceDeletes() || shown.Stale()) return;
     if (RefusesToDelete(host.Get(), pages.size())) return;
-    if (StillShows(host, generation)) DeletePagesOf(host, pages);
+    if (!shown.Stale()) DeletePagesOf(shown, pages);
 }
 
 /// The selected pages and, when it stands among them, the current one.

@@ -23,7 +23,7 @@ void ThumbnailModel::SetRecords(std::vector<ThumbnailRecord> records) {
     current_.reset();
     dropTarget_.reset();
     selection_.Forget();
-    ++generation_;
+    contents_.Next();
     Arrange();
 }
 

@@ -2,6 +2,7 @@
 // current.
 #pragma once
 
+#include "panes/common/stage.h"
 #include "panes/thumbnails/page_selection.h"
 #include "panes/thumbnails/thumbnail_layout.h"
 #include "panes/thumbnails/thumbnail_scroll.h"
@@ -32,9 +33,8 @@ class ThumbnailModel {
     std::int32_t ContentHeight() const noexcept { return layout_.ContentHeight(); }
     std::int32_t ClientHeight() const noexcept { return clientHeight_; }
 
-    /// Grows with every `SetRecords`: who made foreign calls in between finds out whether his index still
-    /// holds.
-    std::uint64_t Generation() const noexcept { return generation_; }
+    /// Another one with every `SetRecords`: indexes of one stage mean nothing in the next.
+    const Stage& Contents() const noexcept { return contents_; }
 
     std::int32_t ScrollPosition() const noexcept { return scrollPosition_; }
     /// These return whether the position changed.
@@ -80,7 +80,7 @@ class ThumbnailModel {
     std::int32_t clientWidth_ = 0;
     std::int32_t clientHeight_ = 0;
     std::int32_t scrollPosition_ = 0;
-    std::uint64_t generation_ = 0;
+    Stage contents_;
 };
 
 }  // namespace qz

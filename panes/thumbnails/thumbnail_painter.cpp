@@ -63,7 +63,7 @@ RenderedPicture Render(std::size_t index, const ThumbnailRecord& record, IVandra
 }  // namespace
 
 void ThumbnailPainter::Paint(HDC dc, const RECT& dirty, IVandraX* host, long factor) {
-    const std::uint64_t generation = model_.Generation();
+    const Stage::Mark shown = model_.Contents().Now();
     {
         const SavedDc saved(dc);
         // The window's origin, not the viewport's: a container may have scaled the device context.
@@ -72,7 +72,7 @@ void ThumbnailPainter::Paint(HDC dc, const RECT& dirty, IVandraX* host, long fac
         const IndexRange range = model_.VisibleIn(dirty.top, dirty.bottom);
         for (std::size_t i = range.first; i < range.last; ++i) {
             DrawRecord(dc, i, host, factor);
-            if (model_.Generation() != generation) return;
+            if (shown.Stale()) return;
         }
     }
     pictures_.Trim(model_.VisibleIn(0, model_.ClientHeight()));
@@ -104,10 +104,10 @@ bool ThumbnailPainter::DrawPicture(HDC dc, std::size_t index, const ThumbnailRec
         CopyPicture(dc, record, *kept);
         return true;
     }
-    const std::uint64_t generation = model_.Generation();
+    const Stage::Mark shown = model_.Contents().Now();
     if (PictureBytes(record) > pictures_.Budget()) return DrawUncached(dc, index, record, host, factor);
     RenderedPicture rendering = Render(index, record, host, factor);
-    if (model_.Generation() != generation) return false;
+    if (shown.Stale()) return false;
     CopyPicture(dc, record, rendering.picture);
     // What the host could not draw is tried again at the next painting.
     if (rendering.complete) pictures_.Keep(index, std::move(rendering.picture));
@@ -117,12 +117,12 @@ bool ThumbnailPainter::DrawPicture(HDC dc, std::size_t index, const ThumbnailRec
 /// A sheet too large to keep is drawn in place each time, clipped to what is painted.
 bool ThumbnailPainter::DrawUncached(HDC dc, std::size_t index, const ThumbnailRecord& record, IVandraX* host,
                                     long factor) {
-    const std::uint64_t generation = model_.Generation();
+    const Stage::Mark shown = model_.Contents().Now();
     const SavedDc saved(dc);
     OffsetWindowOrgEx(dc, -record.x, -record.y, nullptr);
     IntersectClipRect(dc, 0, 0, record.width, record.height);
     DrawPageThumbnail(dc, host, index, record, factor);
-    return model_.Generation() == generation;
+    return !shown.Stale();
 }
 
 }  // namespace qz
