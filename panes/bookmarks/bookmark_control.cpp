@@ -1,8 +1,6 @@
 // The pane's members.
 #include "panes/bookmarks/bookmark_control.h"
 
-#include "panes/common/fit_to_parent.h"
-
 namespace qz {
 
 // Host and outline
@@ -56,21 +54,6 @@ STDMETHODIMP BookmarkControl::CollapseAll() {
 
 // Properties
 // ---------------------------------------------------------------------------------------------------
-
-STDMETHODIMP BookmarkControl::put_FitToParent(long newVal) {
-    return Run([&] {
-        Keep(fitToParent_, newVal);
-        if (newVal) FitToParent(WindowHandle());
-    });
-}
-
-STDMETHODIMP BookmarkControl::put_BackColor(OLE_COLOR newVal) {
-    return Run([&] {
-        const HRESULT result = PutBackColor(newVal);
-        ApplyColours();
-        return result;
-    });
-}
 
 /// The tree's own answer counts: it may have been given another colour directly.
 STDMETHODIMP BookmarkControl::get_TextColor(OLE_COLOR* pVal) {

@@ -6,7 +6,7 @@
 #include "panes/bookmarks/bookmark_images.h"
 #include "panes/bookmarks/bookmark_tree.h"
 #include "panes/bookmarks/item_colours.h"
-#include "panes/common/pane_control.h"
+#include "panes/common/tree_pane.h"
 #include "ui/gdi.h"
 
 #include "generated/qzVandraExt.h"
@@ -15,7 +15,7 @@ namespace qz {
 
 /// See the type library for the members. Those with a host return S_OK and do nothing without one.
 class BookmarkControl final
-    : public Object<BookmarkControl, PaneOf<IqzBookmarkCtrl, DIID__IqzBookmarkCtrlEvents>,
+    : public Object<BookmarkControl, PaneOf<IqzBookmarkCtrl, DIID__IqzBookmarkCtrlEvents, TreePane>,
                     Dispatch<IqzBookmarkCtrl>,
                     ProvideClassInfo<CLSID_qzBookmarkCtrl, DIID__IqzBookmarkCtrlEvents>>,
       private BookmarkTreeListener {
@@ -23,8 +23,8 @@ class BookmarkControl final
     STDMETHODIMP Initialize(IDispatch* pDispatch) override;
     STDMETHODIMP Refresh() override;
     STDMETHODIMP InitializeV(VARIANT Var) override;
-    STDMETHODIMP get_FitToParent(long* pVal) override { return Answer(pVal, fitToParent_); }
-    STDMETHODIMP put_FitToParent(long newVal) override;
+    STDMETHODIMP get_FitToParent(long* pVal) override { return GetFitToParent(pVal); }
+    STDMETHODIMP put_FitToParent(long newVal) override { return PutFitToParent(newVal); }
     STDMETHODIMP get_ReadOnly(long* pVal) override { return Answer(pVal, readOnly_); }
     STDMETHODIMP put_ReadOnly(long newVal) override { return Keep(readOnly_, newVal); }
     STDMETHODIMP get_EnableDragDrop(long* pVal) override { return Answer(pVal, enableDragDrop_); }
@@ -32,7 +32,7 @@ class BookmarkControl final
     STDMETHODIMP ExpandAll() override;
     STDMETHODIMP CollapseAll() override;
     STDMETHODIMP get_BackColor(OLE_COLOR* pVal) override { return GetBackColor(pVal); }
-    STDMETHODIMP put_BackColor(OLE_COLOR newVal) override;
+    STDMETHODIMP put_BackColor(OLE_COLOR newVal) override { return PutTreeBackColor(newVal); }
     STDMETHODIMP get_TextColor(OLE_COLOR* pVal) override;
     STDMETHODIMP put_TextColor(OLE_COLOR newVal) override;
     STDMETHODIMP get_SelectedTextColor(OLE_COLOR* pVal) override;
@@ -75,16 +75,14 @@ class BookmarkControl final
 
     // bookmark_control_view.cpp: the window and what it looks like
     std::wstring Title() const override;
-    void OnDraw(HDC dc, const RECT& bounds) override;
-    void OnSized(SIZE client) override;
+    const TreeView& Tree() const noexcept override { return tree_; }
     void OnWindowCreated() override;
     void OnAmbientChanged(DISPID id) override;
     std::optional<LRESULT> OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
-    HWND FocusChild() const noexcept override { return tree_.Handle(); }
     bool IsInputKey(const MSG& message) const override;
     LRESULT OnCustomDraw(NMTVCUSTOMDRAW& draw) const;
     void ApplyFont();
-    void ApplyColours();
+    void ApplyColours() override;
     void ApplyImages();
     void ApplyItemHeight();
     void Redraw() noexcept;
@@ -94,7 +92,6 @@ class BookmarkControl final
     ItemColours colours_;
     ImageList images_;
     Font font_;
-    long fitToParent_ = 1;
     long readOnly_ = 0;
     long enableDragDrop_ = 1;
     qzBookmarksCtrlIconSetConsts iconSet_ = qzBookmarksCtrlIconSet_None;

@@ -4,7 +4,6 @@
 #include "panes/common/pane_font.h"
 #include "res/strings.h"
 #include "res/text_ids.h"
-#include "ui/keys.h"
 
 namespace qz {
 
@@ -38,8 +37,7 @@ std::optional<LRESULT> BookmarkControl::OnMessage(UINT message, WPARAM wParam, L
             return tree_.OnNotify(header);
         }
         case WM_SYSCOLORCHANGE:
-            tree_.Send(message, wParam, lParam);
-            ApplyColours();
+            TreePane::OnMessage(message, wParam, lParam);
             ApplyImages();
             return std::nullopt;
         case fillTreeMessage:
@@ -50,32 +48,15 @@ std::optional<LRESULT> BookmarkControl::OnMessage(UINT message, WPARAM wParam, L
     }
 }
 
-/// The window is covered by the tree; other devices get its picture.
-void BookmarkControl::OnDraw(HDC dc, const RECT& bounds) {
-    FillSolid(dc, bounds, BackColorRef());
-    if (tree_ && WindowFromDC(dc) != WindowHandle()) {
-        tree_.Send(WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc), PRF_CLIENT);
-    }
-}
-
-void BookmarkControl::OnSized(SIZE client) {
-    if (tree_) {
-        SetWindowPos(tree_.Handle(), nullptr, 0, 0, client.cx, client.cy, SWP_NOZORDER | SWP_NOACTIVATE);
-    }
-}
-
 void BookmarkControl::OnAmbientChanged(DISPID id) {
     if (tree_ && (id == DISPID_AMBIENT_FONT || id == DISPID_UNKNOWN)) ApplyFont();
-    PaneControl::OnAmbientChanged(id);
+    TreePane::OnAmbientChanged(id);
 }
 
 bool BookmarkControl::IsInputKey(const MSG& message) const {
-    if (IsNavigationKey(message.wParam)) return true;
+    if (IsTreeKey(message.wParam)) return true;
     switch (message.wParam) {
         case VK_BACK:
-        case VK_ADD:
-        case VK_SUBTRACT:
-        case VK_MULTIPLY:
             return true;
         case VK_RETURN:
             return tree_ && tree_.Selected();
@@ -104,8 +85,8 @@ void BookmarkControl::ApplyFont() {
 }
 
 void BookmarkControl::ApplyColours() {
+    TreePane::ApplyColours();
     if (tree_) {
-        tree_.Send(TVM_SETBKCOLOR, 0, static_cast<LPARAM>(BackColorRef()));
         tree_.Send(TVM_SETTEXTCOLOR, 0, static_cast<LPARAM>(static_cast<int>(TreeColour(colours_.text))));
     }
     Redraw();

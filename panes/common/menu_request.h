@@ -20,6 +20,13 @@ struct MenuRequest {
     /// Signed screen pixels.
     POINT ScreenPoint() const noexcept { return {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)}; }
 
+    /// Scroll bars have menus of their own.
+    bool OnScrollBarOf(HWND window) const noexcept {
+        if (ByKeyboard()) return false;
+        const LRESULT place = SendMessageW(window, WM_NCHITTEST, 0, lParam);
+        return place == HTVSCROLL || place == HTHSCROLL;
+    }
+
     /// The very message again, as it comes back when a container passes it on.
     bool operator==(const MenuRequest&) const = default;
 };

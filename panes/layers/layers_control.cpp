@@ -3,7 +3,6 @@
 
 #include "host/auto_refresh.h"
 #include "host/host_calls.h"
-#include "panes/common/fit_to_parent.h"
 
 namespace qz {
 
@@ -34,15 +33,6 @@ STDMETHODIMP LayersControl::Refresh() {
 STDMETHODIMP LayersControl::Reset() { return ResetPane(); }
 
 STDMETHODIMP LayersControl::get_IsInitialized(long* pVal) { return TellInitialized(pVal); }
-
-STDMETHODIMP LayersControl::get_FitToParent(long* pVal) { return Answer(pVal, fitToParent_); }
-
-STDMETHODIMP LayersControl::put_FitToParent(long newVal) {
-    return Run([&] {
-        Keep(fitToParent_, newVal);
-        if (newVal) FitToParent(WindowHandle());
-    });
-}
 
 STDMETHODIMP LayersControl::get_Locked(long* pVal) { return Answer(pVal, locked_); }
 
@@ -75,13 +65,6 @@ STDMETHODIMP LayersControl::LayerProperties() {
     const ComPtr<IVandraX> host = Host();
     if (!host) return S_OK;
     return Run([&] { ShowSelectedProperties(host); });
-}
-
-STDMETHODIMP LayersControl::put_BackColor(OLE_COLOR newVal) {
-    const ComPtr<IUnknown> alive = Identity();
-    const HRESULT result = PutBackColor(newVal);
-    if (result == S_OK && tree_) tree_.Send(TVM_SETBKCOLOR, 0, static_cast<LPARAM>(BackColorRef()));
-    return result;
 }
 
 std::span<const PersistentProperty> LayersControl::PersistentProperties() const {

@@ -3,8 +3,8 @@
 
 #include "com/class_info.h"
 #include "com/dispatch.h"
-#include "panes/common/menu_request.h"
-#include "panes/common/pane_control.h"
+#include "panes/common/context_menu.h"
+#include "panes/common/tree_pane.h"
 #include "panes/layers/layer_commands.h"
 #include "panes/layers/layer_events.h"
 #include "panes/layers/layer_painter.h"
@@ -25,16 +25,17 @@ namespace qz {
 /// The host's states of all layers are in `layers_`, and every change of them goes through it; the tree shows
 /// the items that are listed.
 class LayersControl final
-    : public Object<LayersControl, PaneOf<IqzLayersCtrl, DIID__IqzLayersCtrlEvents>, Dispatch<IqzLayersCtrl>,
-                    ProvideClassInfo<CLSID_qzLayersCtrl, DIID__IqzLayersCtrlEvents>>,
-      private LayerTreeListener {
+    : public Object<LayersControl, PaneOf<IqzLayersCtrl, DIID__IqzLayersCtrlEvents, TreePane>,
+                    Dispatch<IqzLayersCtrl>, ProvideClassInfo<CLSID_qzLayersCtrl, DIID__IqzLayersCtrlEvents>>,
+      private LayerTreeListener,
+      private ContextMenuSource {
   public:
     STDMETHODIMP Initialize(IDispatch* pDispatch) override;
     STDMETHODIMP Refresh() override;
     STDMETHODIMP Reset() override;
     STDMETHODIMP get_IsInitialized(long* pVal) override;
-    STDMETHODIMP get_FitToParent(long* pVal) override;
-    STDMETHODIMP put_FitToParent(long newVal) override;
+    STDMETHODIMP get_FitToParent(long* pVal) override { return GetFitToParent(pVal); }
+    STDMETHODIMP put_FitToParent(long newVal) override { return PutFitToParent(newVal); }
     STDMETHODIMP get_Locked(long* pVal) override;
     STDMETHODIMP put_Locked(long newVal) override;
     STDMETHODIMP get_ListLayers(qzLayersCtrlListLayers* pVal) override;
@@ -42,7 +43,7 @@ class LayersControl final
     STDMETHODIMP ResetToInitialVisibility() override;
     STDMETHODIMP LayerProperties() override;
     STDMETHODIMP get_BackColor(OLE_COLOR* pVal) override { return GetBackColor(pVal); }
-    STDMETHODIMP put_BackColor(OLE_COLOR newVal) override;
+    STDMETHODIMP put_BackColor(OLE_COLOR newVal) override { return PutTreeBackColor(newVal); }
 
   private:
     // layers_control.cpp: members, host and records
@@ -62,10 +63,8 @@ class LayersControl final
 
     // layers_control_view.cpp: the tree and its drawing
     std::wstring Title() const override;
-    void OnDraw(HDC dc, const RECT& bounds) override;
+    const TreeView& Tree() const noexcept override { return tree_; }
     void OnWindowCreated() override;
-    void OnSized(SIZE client) override;
-    HWND FocusChild() const noexcept override { return tree_.Handle(); }
     UINT StateImage(LPARAM item) const override;
     /// What of the tree outlives its items, by name.
     struct TreeState {
@@ -92,9 +91,10 @@ class LayersControl final
     ComPtr<IUnknown> KeepAlive() noexcept override { return Identity(); }
     void ToggleByUser(std::size_t record);
     void RefuseBelowHidden();
-    bool OnContextMenu(WPARAM wParam, LPARAM lParam);
+    bool WantsMenu(const MenuRequest& request) const override;
+    void OpenMenu(const MenuRequest& request, POINT screen) override;
     bool IsAboutSelection(const MenuRequest& request) const;
-    POINT KeyboardMenuPoint() const;
+    POINT KeyboardMenuPoint() override;
     void RunCommand(LayerCommand command, const ComPtr<IVandraX>& host);
     LayerCommandState CommandState() const;
     std::optional<std::size_t> ItemOf(HTREEITEM handle) const;
@@ -110,10 +110,8 @@ class LayersControl final
     std::vector<bool> listed_;        ///< By item.
     std::vector<HTREEITEM> handles_;  ///< By item; null for those not listed.
     unsigned changes_ = 0;            ///< Counts the changes made here.
-    long fitToParent_ = 1;
     long locked_ = 0;
     long listLayers_ = qzLayersCtrlListLayers_ForAllPages;
-    MenuRequest lastMenuRequest_;
 };
 
 }  // namespace qz

@@ -27,16 +27,9 @@ std::optional<LRESULT> LayersControl::OnMessage(UINT message, WPARAM wParam, LPA
         case WM_NOTIFY:
             return OnNotify(*reinterpret_cast<const NMHDR*>(lParam));
         case WM_CONTEXTMENU:
-            if (OnContextMenu(wParam, lParam)) return 0;
-            return std::nullopt;
-        case WM_SYSCOLORCHANGE:
-            if (tree_) {
-                tree_.Send(message, wParam, lParam);
-                tree_.Send(TVM_SETBKCOLOR, 0, static_cast<LPARAM>(BackColorRef()));
-            }
-            return std::nullopt;
+            return OnContextMenu(wParam, lParam);
         default:
-            return std::nullopt;
+            return TreePane::OnMessage(message, wParam, lParam);
     }
 }
 
@@ -58,16 +51,8 @@ std::optional<LRESULT> LayersControl::OnNotify(const NMHDR& notice) {
 
 bool LayersControl::IsInputKey(const MSG& message) const {
     if (!Host() || handles_.empty()) return false;
-    if (IsNavigationKey(message.wParam)) return true;
-    switch (message.wParam) {
-        case VK_SPACE:
-        case VK_ADD:
-        case VK_SUBTRACT:
-        case VK_MULTIPLY:
-            return true;
-        default:
-            return IsCharacterKey(message.wParam) && !KeyIsDown(VK_CONTROL) && !KeyIsDown(VK_MENU);
-    }
+    if (IsTreeKey(message.wParam) || message.wParam == VK_SPACE) return true;
+    return IsCharacterKey(message.wParam) && !KeyIsDown(VK_CONTROL) && !KeyIsDown(VK_MENU);
 }
 
 void LayersControl::OnPress(MousePress press, HTREEITEM handle, POINT client) {
@@ -138,27 +123,20 @@ void LayersControl::RefuseBelowHidden() {
 // Context menu
 // -------------------------------------------------------------------------------------------------
 
-/// Whether the request is settled; the tree's scroll bars have menus of their own.
-bool LayersControl::OnContextMenu(WPARAM wParam, LPARAM lParam) {
-    if (!tree_ || !Host()) return false;
-    const MenuRequest request(wParam, lParam);
-    if (!request.ByKeyboard()) {
-        const LRESULT place = tree_.Send(WM_NCHITTEST, 0, lParam);
-        if (place == HTVSCROLL || place == HTHSCROLL) return false;
-    }
-    if (std::exchange(lastMenuRequest_, request) == request) return true;
+bool LayersControl::WantsMenu(const MenuRequest& request) const {
+    return tree_ && Host() && !request.OnScrollBarOf(tree_.Handle());
+}
+
+void LayersControl::OpenMenu(const MenuRequest& request, POINT screen) {
     const ShownDocument shown = Shown();
     const bool aboutSelection = IsAboutSelection(request);
-    const POINT screen = request.ByKeyboard() ? KeyboardMenuPoint() : request.ScreenPoint();
-    if (!events_.ContextSensitiveMenu(screen.x, screen.y)) return true;
-    if (shown.Stale() || !WindowHandle()) return true;
+    if (!events_.ContextSensitiveMenu(screen.x, screen.y)) return;
+    if (shown.Stale() || !WindowHandle()) return;
     LayerCommandState state = CommandState();
     state.layerSelected = state.layerSelected && aboutSelection;
     const auto command = ShowLayerMenu(WindowHandle(), screen, TextLanguage(), state);
-    if (command && !shown.Stale() && CommandState().Enables(*command)) {
-        AskedByUser([&] { RunCommand(*command, shown.Host()); });
-    }
-    return true;
+    if (!command || shown.Stale() || !CommandState().Enables(*command)) return;
+    AskedByUser([&] { RunCommand(*command, shown.Host()); });
 }
 
 /// Not on an item that was pressed but not selected, as the container did not want it: what is done with the
@@ -171,8 +149,8 @@ bool LayersControl::IsAboutSelection(const MenuRequest& request) const {
     return !item || item == tree_.Selected();
 }
 
-/// Screen pixels: below the selected item's text, or at the pane's corner.
-POINT LayersControl::KeyboardMenuPoint() const {
+/// Below the selected item's text, or at the pane's corner.
+POINT LayersControl::KeyboardMenuPoint() {
     RECT text{};
     POINT point{};
     const HTREEITEM selected = tree_.Selected();

@@ -1,5 +1,4 @@
 // How the pane shows itself: the tree and the drawing of its rows.
-#include "panes/common/fit_to_parent.h"
 #include "panes/layers/layers_control.h"
 #include "res/strings.h"
 #include "res/text_ids.h"
@@ -9,24 +8,10 @@ namespace qz {
 
 std::wstring LayersControl::Title() const { return LoadText(TextLanguage(), QZ_TEXT_LAYERS); }
 
-void LayersControl::OnDraw(HDC dc, const RECT& bounds) {
-    FillSolid(dc, bounds, BackColorRef());
-    // On the screen the tree paints itself; a container that asks for a picture gets the tree's.
-    const HWND window = WindowHandle();
-    if (tree_ && WindowFromDC(dc) != window) {
-        tree_.Send(WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc), PRF_CLIENT | PRF_ERASEBKGND);
-    }
-}
-
 void LayersControl::OnWindowCreated() {
     tree_.Create(WindowHandle());
-    tree_.Send(TVM_SETBKCOLOR, 0, static_cast<LPARAM>(BackColorRef()));
+    ApplyColours();
     FillTree({});
-}
-
-void LayersControl::OnSized(SIZE client) {
-    if (!tree_) return;
-    SetWindowPos(tree_.Handle(), nullptr, 0, 0, client.cx, client.cy, SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 // Items

@@ -4,7 +4,7 @@
 #include "com/class_info.h"
 #include "com/dispatch.h"
 #include "host/page_navigation.h"
-#include "panes/common/menu_request.h"
+#include "panes/common/context_menu.h"
 #include "panes/common/pane_control.h"
 #include "panes/status/status_values.h"
 #include "panes/status/status_view.h"
@@ -17,7 +17,8 @@ namespace qz {
 /// whose value the host fails to tell stays as it is; nobody is told.
 class StatusControl final
     : public Object<StatusControl, PaneOf<IqzStatusCtrl, GUID_NULL>, Dispatch<IqzStatusCtrl>,
-                    ProvideClassInfo<CLSID_qzStatusCtrl, GUID_NULL>> {
+                    ProvideClassInfo<CLSID_qzStatusCtrl, GUID_NULL>>,
+      private ContextMenuSource {
   public:
     STDMETHODIMP Initialize(IDispatch* pDispatch) override;
     STDMETHODIMP Reset() override;
@@ -64,7 +65,8 @@ class StatusControl final
     void SelectEntry(StatusField entry) const;
     void OnCommand(StatusField field, UINT notification);
     bool OnButtonDown(POINT point);
-    bool OnContextMenu(WPARAM wParam, LPARAM lParam);
+    POINT KeyboardMenuPoint() override;
+    void OpenMenu(const MenuRequest&, POINT screen) override { ChooseUnit(screen); }
     void OnEntryKey(StatusField entry, WPARAM key);
 
     bool HasFocus() const noexcept;
@@ -82,7 +84,6 @@ class StatusControl final
     StatusView view_;
     /// The user has changed something and is still in the bar: the document gets the focus when he leaves.
     bool focusOwed_ = false;
-    MenuRequest lastMenuRequest_;
 };
 
 }  // namespace qz

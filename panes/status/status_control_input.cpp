@@ -118,7 +118,7 @@ std::optional<LRESULT> StatusControl::OnMessage(UINT message, WPARAM wParam, LPA
             return OnButtonDown({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)}) ? std::optional<LRESULT>(0)
                                                                               : std::nullopt;
         case WM_CONTEXTMENU:
-            return OnContextMenu(wParam, lParam) ? std::optional<LRESULT>(0) : std::nullopt;
+            return OnContextMenu(wParam, lParam);
         default:
             return std::nullopt;
     }
@@ -255,16 +255,10 @@ bool StatusControl::OnButtonDown(POINT point) {
     return true;
 }
 
-bool StatusControl::OnContextMenu(WPARAM wParam, LPARAM lParam) {
-    const MenuRequest request(wParam, lParam);
-    if (std::exchange(lastMenuRequest_, request) == request) return true;
-    POINT screen = request.ScreenPoint();
-    if (request.ByKeyboard()) {
-        screen = {0, ClientSize().cy};
-        ClientToScreen(WindowHandle(), &screen);
-    }
-    ChooseUnit(screen);
-    return true;
+POINT StatusControl::KeyboardMenuPoint() {
+    POINT screen{0, ClientSize().cy};
+    ClientToScreen(WindowHandle(), &screen);
+    return screen;
 }
 
 void StatusControl::ChooseUnit(POINT screen) {

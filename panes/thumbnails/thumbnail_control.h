@@ -3,7 +3,7 @@
 
 #include "com/class_info.h"
 #include "com/dispatch.h"
-#include "panes/common/menu_request.h"
+#include "panes/common/context_menu.h"
 #include "panes/common/pane_control.h"
 #include "panes/thumbnails/drag_picture.h"
 #include "panes/thumbnails/page_commands.h"
@@ -34,7 +34,8 @@ class ThumbnailControl final
     : public Object<ThumbnailControl, PaneOf<IqzThumbnailCtrl, DIID__IqzThumbnailCtrlEvents>,
                     Dispatch<IqzThumbnailCtrl>,
                     ProvideClassInfo<CLSID_qzThumbnailCtrl, DIID__IqzThumbnailCtrlEvents>>,
-      private PageDropListener {
+      private PageDropListener,
+      private ContextMenuSource {
   public:
     ThumbnailControl();
 
@@ -101,8 +102,9 @@ class ThumbnailControl final
     void Show(const SelectionChange& change);
     void GoToPage(std::size_t index);
     void OnReturn();
-    bool OnContextMenu(WPARAM wParam, LPARAM lParam);
-    POINT KeyboardMenuPoint();
+    bool WantsMenu(const MenuRequest& request) const override;
+    POINT KeyboardMenuPoint() override;
+    void OpenMenu(const MenuRequest& request, POINT screen) override;
 
     // thumbnail_control_pages.cpp: what is done with the selected pages
     PageCommandState CommandState() const;
@@ -144,7 +146,6 @@ class ThumbnailControl final
     HeldKeys held_;
     /// The record that was pressed to start the drag now under way.
     std::optional<std::size_t> draggedRecord_;
-    MenuRequest lastMenuRequest_;
 };
 
 }  // namespace qz

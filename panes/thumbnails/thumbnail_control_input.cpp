@@ -47,8 +47,7 @@ std::optional<LRESULT> ThumbnailControl::OnMessage(UINT message, WPARAM wParam, 
             press_.reset();
             return 0;
         case WM_CONTEXTMENU:
-            if (OnContextMenu(wParam, lParam)) return 0;
-            return std::nullopt;
+            return OnContextMenu(wParam, lParam);
         case WM_KEYUP:
             OnKeyUp(wParam);
             return std::nullopt;
@@ -267,25 +266,20 @@ void ThumbnailControl::GoToPage(std::size_t index) {
 // Context menu
 // -------------------------------------------------------------------------------------------------
 
-/// Whether the request is settled. With our menu off it goes on to the container, and the scroll bar has a
-/// menu of its own.
-bool ThumbnailControl::OnContextMenu(WPARAM wParam, LPARAM lParam) {
-    if (!(settings_ & qzThumbnailCtrlSettings_ContextMenu)) return false;
-    const MenuRequest request(wParam, lParam);
-    if (!request.ByKeyboard() && SendMessageW(WindowHandle(), WM_NCHITTEST, 0, lParam) == HTVSCROLL) {
-        return false;
-    }
-    if (std::exchange(lastMenuRequest_, request) == request) return true;
-    const POINT screen = request.ByKeyboard() ? KeyboardMenuPoint() : request.ScreenPoint();
-    if (!events_.ContextSensitiveMenu(screen.x, screen.y)) return true;
-    const ShownDocument shown = Shown();
-    if (shown.Stale() || !WindowHandle()) return true;
-    const auto command = ShowPageMenu(WindowHandle(), screen, TextLanguage(), CommandState());
-    if (command && !shown.Stale()) RunCommand(*command);
-    return true;
+/// With our menu off the request goes on to the container.
+bool ThumbnailControl::WantsMenu(const MenuRequest& request) const {
+    return (settings_ & qzThumbnailCtrlSettings_ContextMenu) && !request.OnScrollBarOf(WindowHandle());
 }
 
-/// Screen pixels: on the first selected thumbnail, which is scrolled into view, or at the pane's corner.
+void ThumbnailControl::OpenMenu(const MenuRequest&, POINT screen) {
+    if (!events_.ContextSensitiveMenu(screen.x, screen.y)) return;
+    const ShownDocument shown = Shown();
+    if (shown.Stale() || !WindowHandle()) return;
+    const auto command = ShowPageMenu(WindowHandle(), screen, TextLanguage(), CommandState());
+    if (command && !shown.Stale()) RunCommand(*command);
+}
+
+/// On the first selected thumbnail, which is scrolled into view, or at the pane's corner.
 POINT ThumbnailControl::KeyboardMenuPoint() {
     POINT point{ThumbnailModel::drawMargin, ThumbnailModel::drawMargin};
     if (const auto& bounds = model_.Selection().GetBounds()) {
