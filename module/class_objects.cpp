@@ -27,7 +27,7 @@ constexpr ClassObject classObjects[] = {
     {&CLSID_qzLayersCtrl, CreateInstanceOf<LayersControl>, nullptr},
     {&CLSID_qzPluginUIDialogs, CreateInstanceOf<PluginUIDialogs>, nullptr},
     {&CLSID_qzPropCtrl, CreateInstanceOf<PropControl>, nullptr},
-    {&CLSID_qzPropertiesDlg, CreateInstanceOf<PropertiesDlg>, nullptr},
+    {&CLSID_qzPropertiesDlg, CreateInstanceOf<PropertiesDlg>, PropertiesDlg::OpenDoor},
     {&CLSID_qzStatusCtrl, CreateInstanceOf<StatusControl>, nullptr},
     {&CLSID_qzThumbnailCtrl, CreateInstanceOf<ThumbnailControl>, nullptr},
 };

@@ -5,8 +5,6 @@
 
 #include "generated/qzVandraExt.h"
 
-#include <comdef.h>
-
 #include <algorithm>
 #include <string>
 
@@ -15,10 +13,8 @@ namespace qz {
 namespace {
 
 HRESULT RunDocumentSettings(const ToolCall& call) {
-    const ComPtr<DocSettingsDlg> dialog = MakeObject<DocSettingsDlg>();
-    ThrowIfFailed(dialog->Initialize(call.host.Get()), L"The document settings need a host");
-    const _variant_t parent(static_cast<long>(reinterpret_cast<LONG_PTR>(call.parent)));
-    ThrowIfFailed(dialog->DoModal(parent), L"The document settings cannot be shown");
+    if (!call.host) Throw(E_POINTER, L"The document settings need a host");
+    RunDocSettings(call.host.Get(), call.parent);
     return S_OK;
 }
 

@@ -11,6 +11,13 @@ namespace qz {
 
 namespace {
 
+ComPtr<IVandraX> TakeHost(IDispatch* candidate) {
+    ComPtr<IVandraX> host;
+    ThrowIfFailed(candidate->QueryInterface(IID_PPV_ARGS(&host)), L"The object is no host");
+    NoteAttachedHost(host.Get());
+    return host;
+}
+
 void RunDialog(const ComPtr<IVandraX>& host, HWND parent) {
     RegisterTextEdits();
     const Language language = LanguageOf(host.Get());
@@ -37,10 +44,7 @@ STDMETHODIMP DocSettingsDlg::Initialize(IDispatch* VandraX) {
     const ComPtr<IUnknown> alive = Identity();
     return Guard(__uuidof(IqzDocSettingsDlg), [&] {
         RequirePointer(VandraX);
-        ComPtr<IVandraX> host;
-        ThrowIfFailed(VandraX->QueryInterface(IID_PPV_ARGS(&host)), L"The object is no host");
-        host_ = host;
-        NoteAttachedHost(host.Get());
+        host_ = TakeHost(VandraX);
     });
 }
 
@@ -55,5 +59,7 @@ STDMETHODIMP DocSettingsDlg::DoModal(VARIANT hWndParent) {
         RunDialog(host, parent);
     });
 }
+
+void RunDocSettings(IDispatch* host, HWND parent) { RunDialog(TakeHost(host), parent); }
 
 }  // namespace qz

@@ -23,4 +23,8 @@ class DocSettingsDlg final : public Object<DocSettingsDlg, Dispatch<IqzDocSettin
     bool open_ = false;
 };
 
+/// The same for callers in C++: runs the dialog over a window, or none, until the user closes it. Throws the
+/// query's failure for what is no host.
+void RunDocSettings(IDispatch* host, HWND parent);
+
 }  // namespace qz

@@ -12,7 +12,6 @@ struct LayerCommandState {
     bool anyLayer = false;
     bool layerSelected = false;  ///< A layer, not a heading.
     bool locked = false;
-    bool inspector = false;  ///< Something is there that shows properties.
 
     constexpr bool Enables(LayerCommand command) const noexcept {
         switch (command) {
@@ -23,7 +22,7 @@ struct LayerCommandState {
             case LayerCommand::Reset:
                 return anyLayer && !locked;
             case LayerCommand::Properties:
-                return layerSelected && inspector;
+                return layerSelected;
         }
         return false;
     }

@@ -2,12 +2,12 @@
 #include "host/object_path.h"
 #include "panes/common/asked_by_user.h"
 #include "panes/layers/layer_menu.h"
-#include "panes/layers/layer_properties.h"
 #include "panes/layers/layers_control.h"
 #include "res/strings.h"
 #include "res/text_ids.h"
 #include "ui/keys.h"
 #include "ui/platform_geometry.h"
+#include "ui/properties_door.h"
 
 #include <algorithm>
 
@@ -164,8 +164,7 @@ LayerCommandState LayersControl::CommandState() const {
     const auto selected = SelectedLayer();
     return {.anyLayer = std::ranges::any_of(all, &LayerRecord::Switchable),
             .layerSelected = selected && layers_.Records().RecordOf(*selected).Switchable(),
-            .locked = locked_ != 0,
-            .inspector = MakePropertiesDialog() != nullptr};
+            .locked = locked_ != 0};
 }
 
 /// The selected item, when it is one of a layer.
@@ -189,16 +188,14 @@ void LayersControl::RunCommand(LayerCommand command, const ComPtr<IVandraX>& hos
     }
 }
 
-/// Throws E_NOTIMPL where nothing can show attributes, E_FAIL when no layer is selected.
+/// Throws E_FAIL when no layer is selected.
 void LayersControl::ShowSelectedProperties(const ComPtr<IVandraX>& host) {
-    const ComPtr<IqzPropertiesDlg> dialog = MakePropertiesDialog();
-    if (!dialog) Throw(E_NOTIMPL, L"There is no dialog that shows properties");
     const auto item = SelectedLayer();
     if (!item) Throw(E_FAIL, L"No layer is selected");
     const std::wstring path = LayerPath(layers_.Records().RecordOf(*item).name);
     ComPtr<IDispatch> object;
     ThrowIfFailed(host->GetObjectByPath(Bstr(path).Get(), &object), L"The layer is gone");
-    ShowProperties(dialog.Get(), host.Get(), object.Get(), WindowHandle());
+    ShowProperties({.host = host.Get(), .object = object.Get(), .owner = WindowHandle()});
 }
 
 }  // namespace qz

@@ -40,8 +40,7 @@ STDMETHODIMP PropertiesDlg::put_Options(qzPropertiesDlgOptions newVal) {
 STDMETHODIMP PropertiesDlg::put_VandraX(IDispatch* newVal) {
     const ComPtr<IUnknown> alive = Identity();
     return Guard(__uuidof(IqzPropertiesDlg), [&] {
-        state_.host = newVal;
-        NoteAttachedHost(newVal);
+        Attach(newVal);
         if (Open()) window_->TakeHost();
     });
 }
@@ -54,8 +53,28 @@ STDMETHODIMP PropertiesDlg::put_Object(IDispatch* newVal) {
     });
 }
 
+void PropertiesDlg::Attach(IDispatch* host) {
+    state_.host = host;
+    NoteAttachedHost(host);
+}
+
 void PropertiesDlg::MakeWindow() {
     window_ = MakeDialog<PropertiesWindow>(state_, Identity(), LanguageOf(state_.host.Get()));
+}
+
+void PropertiesDlg::ShowModal(HWND parent) {
+    MakeWindow();
+    const std::shared_ptr<PropertiesWindow> window = window_;
+    window->ShowModal(parent);
+}
+
+void PropertiesDlg::Serve(const PropertiesRequest& request) {
+    const ComPtr<PropertiesDlg> dialog = MakeObject<PropertiesDlg>();
+    dialog->state_.options = request.options;
+    dialog->state_.changes = request.changes;
+    dialog->state_.object = request.object;
+    dialog->Attach(request.host);
+    dialog->ShowModal(request.owner);
 }
 
 STDMETHODIMP PropertiesDlg::DoModal(VARIANT hWndParent) {
@@ -63,9 +82,7 @@ STDMETHODIMP PropertiesDlg::DoModal(VARIANT hWndParent) {
     return Guard(__uuidof(IqzPropertiesDlg), [&] {
         const HWND parent = ParentWindow(hWndParent);
         if (Open()) Throw(E_FAIL, L"The dialog is open already");
-        MakeWindow();
-        const std::shared_ptr<PropertiesWindow> window = window_;
-        window->ShowModal(parent);
+        ShowModal(parent);
     });
 }
 

@@ -4,6 +4,7 @@
 #include "com/class_info.h"
 #include "com/dispatch.h"
 #include "properties/dialog/properties_window.h"
+#include "ui/properties_door.h"
 
 #include <memory>
 
@@ -30,12 +31,15 @@ class PropertiesDlg final : public Object<PropertiesDlg, Dispatch<IqzPropertiesD
     /// Acts on the next window.
     STDMETHODIMP put_Options(qzPropertiesDlgOptions newVal) override;
 
-    /// For the dialog over an inspector: see PropControl.
-    void RecordIn(const std::shared_ptr<AttributeChanges>& changes) { state_.changes = changes; }
+    /// Serves what is asked through the properties door with a dialog of its own.
+    static void Serve(const PropertiesRequest& request);
+    static void OpenDoor() noexcept { propertiesDoor = Serve; }
 
   private:
     bool Open() const noexcept { return window_ && window_->Handle(); }
+    void Attach(IDispatch* host);
     void MakeWindow();
+    void ShowModal(HWND parent);
 
     PropertiesState state_;
     std::shared_ptr<PropertiesWindow> window_;

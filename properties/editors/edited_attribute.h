@@ -21,7 +21,7 @@ struct AttributeChange {
     _variant_t oldValue;
 };
 
-using AttributeChanges = ChangeList<AttributeChange>;
+class AttributeChanges : public ChangeList<AttributeChange> {};
 
 /// The members of one host's objects that are called by name.
 struct HostMembers {

@@ -2,12 +2,12 @@
 #include "properties/inspector/prop_control.h"
 
 #include "host/attributes.h"
-#include "properties/dialog/properties_dlg.h"
 #include "properties/model/category_tabs.h"
 #include "properties/model/editor_choice.h"
 #include "properties/editors/make_editor.h"
 #include "properties/model/inspector_memory.h"
 #include "ui/platform_geometry.h"
+#include "ui/properties_door.h"
 
 namespace qz {
 
@@ -231,15 +231,15 @@ int PropControl::ShowMessage(const std::wstring& text, const std::wstring& capti
 }
 
 void PropControl::EditObject(IDispatch* object) {
-    const ComPtr<PropertiesDlg> dialog = MakeObject<PropertiesDlg>();
     const ComPtr<IVandraX> host = Host();
-    dialog->RecordIn(changes_);
-    dialog->put_Options(static_cast<qzPropertiesDlgOptions>(qzPropertiesDlgOptions_NoObjectsList |
-                                                            qzPropertiesDlgOptions_NoSavePosition));
-    ThrowIfFailed(dialog->put_VandraX(host.Get()));
-    ThrowIfFailed(dialog->put_Object(object));
+    const PropertiesRequest request{
+        .host = host.Get(),
+        .object = object,
+        .owner = WindowHandle(),
+        .options = qzPropertiesDlgOptions_NoObjectsList | qzPropertiesDlgOptions_NoSavePosition,
+        .changes = changes_};
     const ChildDialogScope modal(static_cast<ValueDlgSite&>(*this));
-    ThrowIfFailed(dialog->DoModal(_variant_t(HandleToLong(WindowHandle()))), L"The dialog cannot be shown");
+    ShowProperties(request);
     // The dialog's inspector has remembered its own choices for all.
     if (!DialogWindow()) return;
     Memory().SetCategory(static_cast<std::uint32_t>(dialog_->CurrentTab()));
