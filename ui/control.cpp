@@ -20,11 +20,11 @@ void* Control::FindInterface(Control* self, REFIID iid) noexcept {
 }
 
 void Control::FinalRelease() noexcept {
-    LeaveInPlace();
+    place_.Leave();
     viewAdvice_.Set(0, 0, nullptr);
     propertyNotify_.DisconnectAll();
     adviseHolder_.Reset();
-    site_.Reset();
+    place_.PutSite(nullptr);
 }
 
 std::optional<LRESULT> Control::OnMessage(UINT, WPARAM, LPARAM) { return {}; }

@@ -11,8 +11,9 @@
 #include "com/connection_points.h"
 #include "com/object.h"
 #include "ui/ambient.h"
+#include "ui/in_place.h"
 #include "ui/modal_owner.h"
-#include "ui/property_image.h"
+#include "ui/saved_properties.h"
 #include "ui/view_advice.h"
 #include "ui/window.h"
 
@@ -27,14 +28,6 @@
 #include <vector>
 
 namespace qz {
-
-/// A property that is saved with the control and read back, through the control's own IDispatch.
-struct PersistentProperty {
-    const wchar_t* name;
-    DISPID id;
-    /// How it is stored: an integer, floating point, VT_BOOL or VT_BSTR type.
-    VARTYPE type;
-};
 
 /// What the registration says of every control, and GetMiscStatus too: recomposes on resize, cannot link
 /// inside, inside-out, active when visible, wants its client site first.
@@ -173,17 +166,17 @@ class Control : public IOleObject,
     /// The control's window, null while not active in place.
     HWND WindowHandle() const noexcept { return window_.Handle(); }
     SIZE ClientSize() const noexcept;  ///< Pixels; the extent's size without a window.
-    bool InPlaceActive() const noexcept { return inPlaceActive_; }
-    bool UIActive() const noexcept { return uiActive_; }
+    bool InPlaceActive() const noexcept { return place_.Active(); }
+    bool UIActive() const noexcept { return place_.UIActive(); }
 
     /// Repaints the whole control and tells containers that draw it themselves.
     void Invalidate() noexcept;
 
     /// The container's ambient properties, asked anew each time.
-    Ambient Ambients() const { return Ambient(site_.Get()); }
+    Ambient Ambients() const { return Ambient(place_.Site()); }
     /// False while the container is being designed; true when it does not say.
     bool UserMode() const { return Ambients().Flag(DISPID_AMBIENT_USERMODE, true); }
-    IOleClientSite* ClientSite() const noexcept { return site_.Get(); }
+    IOleClientSite* ClientSite() const noexcept { return place_.Site(); }
 
     /// True while the container wants no events. Events due then are dropped, not kept: the state they tell
     /// of may be gone when the container thaws.
@@ -208,7 +201,7 @@ class Control : public IOleObject,
     COLORREF BackColorRef() const;
 
     /// What a modal window of the control stands over.
-    ModalOwner OwnerOfModal() const { return {window_.Handle(), frame_}; }
+    ModalOwner OwnerOfModal() const { return {window_.Handle(), place_.Frame()}; }
 
     /// Shows a message box over the container's window and gives the button pressed; 0 when it could not be
     /// shown. The container is modal meanwhile, and messages are handled: look again at
@@ -243,30 +236,20 @@ class Control : public IOleObject,
         return Guard(iid, std::forward<Body>(body));
     }
 
-    // control_in_place.cpp: the states "loaded", "in-place active", "UI active"
+    // control_in_place.cpp
     void RunVerb(LONG verb);
-    void Activate();
-    void ActivateInPlace();
-    void EnterPlace(IOleInPlaceSite* site);
-    HRESULT ActivateUserInterface();
-    void AnnounceActiveObject(IOleInPlaceActiveObject* active, const wchar_t* title) noexcept;
-    void LeaveUserInterface() noexcept;
-    void LeaveInPlace() noexcept;
-    void Place(const RECT& position, const RECT& clip);
-    void RequireStage(unsigned stage) const;
 
     // control_keyboard.cpp
-    bool Owns(HWND window) const noexcept;
     bool Keeps(const MSG& message) const;
     bool MovesFocusWithin(const MSG& message) const;
-    void TakeFocus() noexcept;
-    void TellFocus(bool has) noexcept;
     std::optional<LRESULT> DialogCode(const MSG* message) const;
 
     // control_messages.cpp
     std::optional<LRESULT> HandleMessage(UINT message, WPARAM wParam, LPARAM lParam);
     void Anticipate(UINT message, WPARAM wParam, LPARAM lParam);
-    void OnChildFocus(bool got, HWND other);
+    void OnFocusGot();
+    void OnFocusLost(HWND to);
+    void ActivateByUser();
     std::optional<LRESULT> HandleDefault(UINT message, WPARAM wParam, LPARAM lParam);
     void Paint();
 
@@ -276,31 +259,19 @@ class Control : public IOleObject,
 
     // control_persistence.cpp
     bool SaveOnClose(DWORD saveOption);
-    void Apply(const std::vector<StoredProperty>& stored);
     void FinishLoading(SIZEL extent);
-    std::vector<std::byte> Image();
 
     SIZEL ExtentHimetric() const { return extent_.value_or(InitialExtent()); }
 
-    ComPtr<IOleClientSite> site_;
-    ComPtr<IOleInPlaceSite> inPlaceSite_;
-    ComPtr<IOleInPlaceFrame> frame_;
-    ComPtr<IOleInPlaceUIWindow> documentWindow_;
     ComPtr<IOleAdviseHolder> adviseHolder_;
     ViewAdvice viewAdvice_;
     ConnectionPoint propertyNotify_;
     ClientWindow window_{*this};
+    InPlace place_{window_, *this};
 
     std::optional<SIZEL> extent_;
     std::optional<OLE_COLOR> backColor_;
     unsigned eventFreezes_ = 0;
-    unsigned stage_ =
-        0;  ///< Counts what ends an activation, so that one under way sees that it has been ended.
-    bool activating_ = false;
-    bool leaving_ = false;
-    bool inPlaceActive_ = false;
-    bool uiActive_ = false;
-    bool focusTold_ = false;  ///< The container knows that the control, or a child of it, has the focus.
     bool dirty_ = false;
     bool loaded_ = false;
 };

@@ -1,4 +1,4 @@
-// Focus and the keyboard: who gets a key, the control or its container.
+// The keyboard: who gets a key, the control or its container.
 #include "ui/control.h"
 
 #include "ui/keys.h"
@@ -28,11 +28,6 @@ DWORD Modifiers() noexcept {
 
 bool Control::IsInputKey(const MSG&) const { return false; }
 
-bool Control::Owns(HWND window) const noexcept {
-    const HWND own = window_.Handle();
-    return own && window && (window == own || IsChild(own, window));
-}
-
 bool Control::Keeps(const MSG& message) const {
     return NamesKey(message.message) && message.wParam != VK_TAB && IsInputKey(message);
 }
@@ -49,28 +44,18 @@ bool Control::MovesFocusWithin(const MSG& message) const {
 STDMETHODIMP Control::TranslateAccelerator(LPMSG message) {
     return Run(IID_IOleInPlaceActiveObject, [&]() -> HRESULT {
         RequirePointer(message);
-        if (!uiActive_ || !IsKeyMessage(message->message)) return S_FALSE;
-        if (Owns(message->hwnd) && Keeps(*message)) {
+        if (!place_.UIActive() || !IsKeyMessage(message->message)) return S_FALSE;
+        if (place_.Owns(message->hwnd) && Keeps(*message)) {
             MSG own = *message;
             TranslateMessage(&own);
             DispatchMessageW(&own);
             return S_OK;
         }
-        if (Owns(message->hwnd) && MovesFocusWithin(*message)) return S_OK;
-        ComPtr<IOleControlSite> site;
-        if (!site_ || FAILED(site_.As(&site))) return S_FALSE;
+        if (place_.Owns(message->hwnd) && MovesFocusWithin(*message)) return S_OK;
+        const ComPtr<IOleControlSite> site = place_.SiteOfControl();
+        if (!site) return S_FALSE;
         return site->TranslateAccelerator(message, Modifiers()) == S_OK ? S_OK : S_FALSE;
     });
-}
-
-void Control::TakeFocus() noexcept {
-    if (window_.Handle() && !Owns(GetFocus())) SetFocus(window_.Handle());
-}
-
-void Control::TellFocus(bool has) noexcept {
-    if (std::exchange(focusTold_, has) == has) return;  // it went from one window of the control to another
-    ComPtr<IOleControlSite> site;
-    if (site_ && SUCCEEDED(site_.As(&site))) site->OnFocus(has);
 }
 
 /// What a dialog that hosts the control shall leave to it.

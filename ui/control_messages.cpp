@@ -19,46 +19,48 @@ std::optional<LRESULT> Control::HandleMessage(UINT message, WPARAM wParam, LPARA
 /// What must happen whatever the derived control does with the message. A control that has left its place
 /// calls the site no more, whatever its window hears while it goes.
 void Control::Anticipate(UINT message, WPARAM wParam, LPARAM lParam) {
-    if (!inPlaceActive_) return;
+    if (!place_.Active()) return;
     switch (message) {
         case WM_CREATE:
             return OnWindowCreated();
         case WM_DESTROY:
-            return LeaveInPlace();  // the parent goes and takes the window along without a word
+            return place_.Leave();  // the parent goes and takes the window along without a word
         case WM_MOUSEACTIVATE:
-            if (UserMode()) ActivateUserInterface();  // the container may refuse
-            return;
+            return ActivateByUser();
         case WM_LBUTTONDOWN:
         case WM_RBUTTONDOWN:
         case WM_MBUTTONDOWN:
-            return TakeFocus();
+            return place_.TakeFocus();
         case WM_SETFOCUS:
-            if (UserMode()) ActivateUserInterface();
-            return TellFocus(true);
+            return OnFocusGot();
         case WM_KILLFOCUS:
-            if (!Owns(reinterpret_cast<HWND>(wParam))) TellFocus(false);
-            return;
+            return OnFocusLost(reinterpret_cast<HWND>(wParam));
         case childFocusMessage:
-            return OnChildFocus(wParam != 0, reinterpret_cast<HWND>(lParam));
+            return wParam != 0 ? OnFocusGot() : OnFocusLost(reinterpret_cast<HWND>(lParam));
         default:
             return;
     }
 }
 
+/// The container may refuse.
+void Control::ActivateByUser() {
+    if (UserMode()) place_.ActivateUserInterface(Title());
+}
+
 /// The focus in one of the control's child windows is the control's.
-void Control::OnChildFocus(bool got, HWND other) {
-    if (got) {
-        if (UserMode()) ActivateUserInterface();
-        TellFocus(true);
-    } else if (!Owns(other)) {
-        TellFocus(false);
-    }
+void Control::OnFocusGot() {
+    ActivateByUser();
+    place_.TellFocus(true);
+}
+
+void Control::OnFocusLost(HWND to) {
+    if (!place_.Owns(to)) place_.TellFocus(false);
 }
 
 std::optional<LRESULT> Control::HandleDefault(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
         case WM_SETFOCUS:
-            if (const HWND child = inPlaceActive_ ? FocusChild() : nullptr) SetFocus(child);
+            if (const HWND child = place_.Active() ? FocusChild() : nullptr) SetFocus(child);
             return {};
         case WM_ERASEBKGND:
             return 1;  // OnDraw fills the background

@@ -23,18 +23,16 @@ IOleAdviseHolder* HolderIn(ComPtr<IOleAdviseHolder>& holder) {
 
 STDMETHODIMP Control::SetClientSite(IOleClientSite* site) {
     return Run(IID_IOleObject, [&] {
-        if (site == site_.Get()) return;
-        ++stage_;
-        LeaveInPlace();
-        const ComPtr<IOleClientSite> before = std::exchange(site_, site);
-        if (site_) OnAmbientChanged(DISPID_UNKNOWN);
+        if (site == place_.Site()) return;
+        const ComPtr<IOleClientSite> before = place_.PutSite(site);
+        if (place_.Site()) OnAmbientChanged(DISPID_UNKNOWN);
     });
 }
 
 STDMETHODIMP Control::GetClientSite(IOleClientSite** site) {
     if (!site) return E_POINTER;
     *site = nullptr;
-    return Run(IID_IOleObject, [&] { site_.CopyTo(site); });
+    return Run(IID_IOleObject, [&] { ComPtr<IOleClientSite>(place_.Site()).CopyTo(site); });
 }
 
 STDMETHODIMP Control::SetHostNames(LPCOLESTR, LPCOLESTR) {
@@ -45,8 +43,7 @@ STDMETHODIMP Control::Close(DWORD saveOption) {
     return Run(IID_IOleObject, [&]() -> HRESULT {
         if (saveOption > OLECLOSE_PROMPTSAVE) Throw(E_INVALIDARG, L"An unknown way to close");
         if (!SaveOnClose(saveOption)) return OLE_E_PROMPTSAVECANCELLED;
-        ++stage_;
-        LeaveInPlace();
+        place_.End();
         if (const ComPtr<IOleAdviseHolder> holder = adviseHolder_) holder->SendOnClose();
         return S_OK;
     });

@@ -31,21 +31,6 @@ TEST(Activation, VerbsReachTheStateThatTheyName) {
     }
 }
 
-TEST(Activation, CallsTheContainerInOrder) {
-    Container container;
-    ASSERT_EQ(container.Do(OLEIVERB_UIACTIVATE), S_OK);
-    long last = -1;
-    for (const char* name : {"CanInPlaceActivate", "OnInPlaceActivate", "GetWindow", "GetWindowContext",
-                             "ShowObject", "OnUIActivate", "SetActiveObject", "SetBorderSpace(null)"}) {
-        EXPECT_GT(container.site->IndexOf(name), last) << name;
-        last = container.site->IndexOf(name);
-    }
-    container.site->ForgetCalls();
-    ASSERT_EQ(container.Do(OLEIVERB_UIACTIVATE), S_OK);
-    EXPECT_FALSE(container.site->Saw("OnInPlaceActivate"));
-    EXPECT_FALSE(container.site->Saw("OnUIActivate"));
-}
-
 TEST(Activation, DeactivatesOnceAndInOrder) {
     Container container;
     ASSERT_EQ(container.Do(OLEIVERB_UIACTIVATE), S_OK);
@@ -61,50 +46,6 @@ TEST(Activation, DeactivatesOnceAndInOrder) {
     HWND none = window;
     EXPECT_EQ(static_cast<IOleInPlaceObject*>(container.control.Get())->GetWindow(&none), E_FAIL);
     EXPECT_EQ(none, nullptr);
-}
-
-TEST(Activation, RefusalLeavesNothingActive) {
-    const struct {
-        const char* call;
-        HRESULT answer;
-        HRESULT result;
-        bool toldDeactivated;
-    } rows[] = {
-        {"CanInPlaceActivate", S_FALSE, OLE_E_NOT_INPLACEACTIVE, false},
-        {"CanInPlaceActivate", E_ACCESSDENIED, E_ACCESSDENIED, false},
-        {"OnInPlaceActivate", E_FAIL, E_FAIL, false},
-        {"GetWindow", E_FAIL, E_FAIL, true},
-        {"GetWindowContext", E_OUTOFMEMORY, E_OUTOFMEMORY, true},
-    };
-    for (const auto& row : rows) {
-        Container container;
-        container.site->answers[row.call] = [&] { return row.answer; };
-        EXPECT_EQ(container.Do(OLEIVERB_UIACTIVATE), row.result) << row.call;
-        EXPECT_FALSE(TakeErrorText().empty()) << row.call;
-        EXPECT_EQ(container.control->WindowHandle(), nullptr) << row.call;
-        EXPECT_EQ(container.site->Saw("OnInPlaceDeactivate"), row.toldDeactivated) << row.call;
-        container.site->answers.clear();
-        EXPECT_EQ(container.Do(OLEIVERB_UIACTIVATE), S_OK) << row.call;
-    }
-}
-
-TEST(Activation, RefusedUserInterfaceLeavesTheControlInPlace) {
-    Container container;
-    container.site->answers["OnUIActivate"] = [] { return E_FAIL; };
-    EXPECT_EQ(container.Do(OLEIVERB_PRIMARY), E_FAIL);
-    EXPECT_NE(container.control->WindowHandle(), nullptr);
-    EXPECT_FALSE(container.control->UIActive());
-    EXPECT_FALSE(container.site->Saw("SetActiveObject"));
-    EXPECT_FALSE(container.site->Saw("OnUIDeactivate"));
-}
-
-TEST(Activation, ControlDeactivatedAtOnceDoesNotFetchTheFocusBack) {
-    Container container;
-    container.site->answers["OnUIActivate"] = [&] { return container.control->UIDeactivate(); };
-    EXPECT_EQ(container.Do(OLEIVERB_UIACTIVATE), OLE_E_NOT_INPLACEACTIVE);
-    EXPECT_FALSE(container.control->UIActive());
-    EXPECT_EQ(container.site->Count("OnUIActivate"), 1);
-    EXPECT_NE(GetFocus(), container.control->WindowHandle());
 }
 
 TEST(Activation, NeedsASite) {
