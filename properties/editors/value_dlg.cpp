@@ -36,13 +36,13 @@ void CValueDlg::OnInit() {
 }
 
 void CValueDlg::Show(const AttributeValues& values) {
-    refused_ = false;
+    state_.ForgetRefused();
     WithoutNotifications([&] { ShowValue(values.differ ? nullptr : &values.value); });
-    SetSeveralShown(values.differ);
+    ShowSeveral(values.differ);
 }
 
-void CValueDlg::SetSeveralShown(bool several) {
-    if (std::exchange(severalShown_, several) != several) site_->ValuesChanged();
+void CValueDlg::ShowSeveral(bool several) {
+    if (state_.ShowSeveral(several)) site_->ValuesChanged();
 }
 
 /// A text field that is read-only can still be read and copied from; anything else is disabled.
@@ -57,17 +57,15 @@ void CValueDlg::DisableAll() const noexcept {
 }
 
 bool CValueDlg::OnCommand(int id, int notification) {
-    if (showing_) return false;
-    // While the host takes a value, typing may go on: it is written later.
-    const bool typed = notification == EN_CHANGE || notification == CBN_EDITCHANGE;
-    return !writing_ || typed ? OnEdited(id, notification) : false;
+    const bool typing = notification == EN_CHANGE || notification == CBN_EDITCHANGE;
+    return state_.Hears(typing) && OnEdited(id, notification);
 }
 
 std::optional<LRESULT> CValueDlg::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_TIMER && wParam == writeTimer) {
         // One that was in the queue when the timer was stopped comes too late, one during a write comes
         // again.
-        if (waiting_ && !writing_) WriteNow();
+        if (state_.Waiting() && !state_.Writing()) WriteNow();
         return 0;
     }
     if (message == WM_SIZE) {
@@ -79,13 +77,13 @@ std::optional<LRESULT> CValueDlg::OnMessage(UINT message, WPARAM wParam, LPARAM 
 
 void CValueDlg::WriteLater() {
     if (ReadOnly()) return;
-    waiting_ = true;
+    state_.Enter();
     ThrowLastErrorIf(SetTimer(Handle(), writeTimer, writeDelay, nullptr) == 0,
                      L"There is no timer to be had");
 }
 
 void CValueDlg::WriteSoon() {
-    if (waiting_ && Handle()) SetTimer(Handle(), writeTimer, USER_TIMER_MINIMUM, nullptr);
+    if (state_.Waiting() && Handle()) SetTimer(Handle(), writeTimer, USER_TIMER_MINIMUM, nullptr);
 }
 
 bool CValueDlg::Attempt(const std::function<void()>& action) {
@@ -95,46 +93,44 @@ bool CValueDlg::Attempt(const std::function<void()>& action) {
 }
 
 void CValueDlg::StopWaiting() noexcept {
-    waiting_ = false;
+    state_.StopWaiting();
     if (Handle()) KillTimer(Handle(), writeTimer);
 }
 
 /// Runs a write and tells the user of its failure; whether it succeeded.
 template <class Writing>
 bool CValueDlg::Write(Writing&& writing) {
-    if (ReadOnly() || writing_) return false;
-    writing_ = true;
-    written_ = true;  // also when it fails, as nothing is known then
+    if (ReadOnly() || state_.Writing()) return false;
+    state_.BeginWrite();
     const HRESULT outcome = Guard(IID_NULL, std::forward<Writing>(writing));
-    writing_ = false;
-    refused_ = FAILED(outcome);  // before the user is told: what he entered is to stay meanwhile
-    if (refused_) TellFailure(TakeErrorText(outcome));
+    state_.EndWrite(SUCCEEDED(outcome));  // before the user is told: what he entered is to stay meanwhile
+    if (FAILED(outcome)) TellFailure(TakeErrorText(outcome));
     return SUCCEEDED(outcome);
 }
 
 void CValueDlg::WriteNow() {
-    if (writing_) return WriteLater();  // from within the host's taking of a value
+    if (state_.Writing()) return WriteLater();  // from within the host's taking of a value
     StopWaiting();
     const std::optional<_variant_t> value = EnteredValue();
     if (value) {
-        if (Write([&] { WriteBack(edited_, *value); })) SetSeveralShown(false);
+        if (Write([&] { WriteBack(edited_, *value); })) ShowSeveral(false);
     } else if (KeepsWhatIsNoValue()) {
-        refused_ = true;
+        state_.Refuse();
     } else {
         MessageBeep(MB_OK);
-        refused_ = false;
+        state_.ForgetRefused();
         FollowHost();
     }
 }
 
 void CValueDlg::Finish() {
     if (!Handle()) return;
-    const std::optional<_variant_t> value = waiting_ ? EnteredValue() : std::nullopt;
+    const std::optional<_variant_t> value = state_.Waiting() ? EnteredValue() : std::nullopt;
     StopWaiting();
     if (value) {
         // The selection may be another one by now: not the selected objects, but those of the editor. What
         // was typed while the host takes another value has no later.
-        writing_ = false;
+        state_.LeaveWrite();
         Write([&] { WriteInto(edited_, opened_, *value); });
     }
     OnFinished();
@@ -145,11 +141,11 @@ void CValueDlg::Restore() {
     StopWaiting();
     Show(opened_);
     // What could not be taken back can be tried again.
-    if (written_) written_ = !Write([this] { WriteOpened(edited_, opened_); });
+    if (state_.Written() && Write([this] { WriteOpened(edited_, opened_); })) state_.TakenBack();
 }
 
 void CValueDlg::FollowHost() {
-    if (waiting_ || writing_ || refused_ || !Handle()) return;
+    if (!state_.FollowsHost() || !Handle()) return;
     Show(ReadValues(edited_));
 }
 
@@ -167,7 +163,7 @@ bool CValueDlg::WantsKey(HWND control, UINT message, WPARAM key) {
         case VK_ESCAPE:
             return !dropped && CanRestore();
         case VK_RETURN:
-            return waiting_ && !dropped && !KeepsReturn(control);
+            return state_.Waiting() && !dropped && !KeepsReturn(control);
         case VK_F4:
             return !dropped;
         default:

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "properties/editors/edited_attribute.h"
+#include "properties/model/edit_state.h"
 #include "ui/child_keys.h"
 #include "ui/dialog.h"
 
@@ -59,9 +60,9 @@ class CValueDlg : public Dialog, private ChildKeyListener {
     /// Opens the editor's drop-down or picker, if it has one.
     virtual void OpenPicker() {}
     /// Whether several objects with different values are edited and nothing was entered yet.
-    bool ShowsSeveralValues() const noexcept { return severalShown_; }
+    bool ShowsSeveralValues() const noexcept { return state_.Several(); }
     /// Whether Escape has something to restore.
-    bool CanRestore() const noexcept { return waiting_ || written_ || refused_; }
+    bool CanRestore() const noexcept { return state_.CanRestore(); }
     /// Shows, and if need be writes, what was there when the editor was opened.
     void Restore();
 
@@ -110,11 +111,11 @@ class CValueDlg : public Dialog, private ChildKeyListener {
     template <class Change>
     void WithoutNotifications(Change&& change) {
         struct Restoring {
-            bool& flag;
+            EditState& state;
             bool before;
-            ~Restoring() { flag = before; }
+            ~Restoring() { state.ChangeOwnControls(before); }
         };
-        const Restoring restoring{showing_, std::exchange(showing_, true)};
+        const Restoring restoring{state_, state_.ChangeOwnControls(true)};
         change();
     }
 
@@ -127,7 +128,7 @@ class CValueDlg : public Dialog, private ChildKeyListener {
   private:
     ComPtr<IUnknown> KeepAlive() noexcept final { return site_ ? site_->SiteOwner() : nullptr; }
     void Show(const AttributeValues& values);
-    void SetSeveralShown(bool several);
+    void ShowSeveral(bool several);
     void DisableAll() const noexcept;
     void StopWaiting() noexcept;
     template <class Writing>
@@ -138,12 +139,7 @@ class CValueDlg : public Dialog, private ChildKeyListener {
     ValueDlgSite* site_ = nullptr;
     ChildKeys keys_{*this};
     AttributeValues opened_;  ///< What the editor was opened with.
-    bool severalShown_ = false;
-    bool showing_ = false;  ///< The editor is changing its own controls.
-    bool waiting_ = false;  ///< Something entered is not written yet.
-    bool refused_ = false;  ///< What is shown was entered but is no value, or the host did not take it.
-    bool writing_ = false;
-    bool written_ = false;
+    EditState state_;
 };
 
 using ValueDlgPointer = std::shared_ptr<CValueDlg>;
