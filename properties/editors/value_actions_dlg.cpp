@@ -1,17 +1,23 @@
-#include "properties/editors/value_actions_dlg.h"
+// The editor of chains of actions.
+#include "properties/editors/make_editor.h"
 
 #include "host/late_bound.h"
 #include "panes/common/popup_menu.h"
+#include "properties/editors/confirmation_pause.h"
+#include "properties/editors/listed_objects.h"
 #include "properties/model/picker_layouts.h"
 #include "res/dialog_ids.h"
 #include "res/strings.h"
 #include "res/text_ids.h"
 #include "ui/button_picture.h"
+#include "ui/gdi.h"
 #include "ui/keys.h"
 #include "ui/platform_geometry.h"
 #include "ui/screen.h"
 
 #include <algorithm>
+#include <array>
+#include <cstddef>
 
 namespace qz {
 
@@ -53,6 +59,48 @@ int AskForType(HWND owner, const RECT& button) {
     }
     return static_cast<int>(menu.Track(owner, {button.left, button.bottom + menuGap}));
 }
+
+/// Lists the actions in their order. What the user does to the list is written at once. While the editor is
+/// open the document's changes are not confirmed: an action's own attributes are changed in a dialog over it.
+class CValueActionsDlg final : public CValueDlg {
+  public:
+    explicit CValueActionsDlg(Language language) noexcept;
+
+    /// The menu of new actions.
+    void OpenPicker() override;
+
+  private:
+    struct Picture {
+        Bitmap enabled, disabled;
+    };
+
+    void OnEditorInit() override;
+    void OnSized(SIZE client) override;
+    void ShowValue(const _variant_t* value) override;
+    std::optional<_variant_t> EnteredValue() const override;
+    bool OnEdited(int id, int notification) override;
+    void OnFinished() override { pause_.reset(); }
+    std::optional<LRESULT> OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+    bool WantsKey(HWND control, UINT message, WPARAM key) override;
+    void OnKey(HWND control, UINT message, WPARAM key) override;
+
+    std::optional<int> CommandOf(HWND control, UINT message, WPARAM key) const;
+    bool Press(int button);
+    void Add();
+    ComPtr<IDispatch> CreateAction(int type) const;
+    void Remove();
+    void Edit();
+    void Move(int by);
+
+    std::optional<std::size_t> Selected() const noexcept;
+    void ShowChain(std::size_t selected);
+    void ShowSelected();
+    void EnableButton(std::size_t button, bool enabled) const noexcept;
+
+    std::vector<ListedObject> chain_;
+    std::array<Picture, 5> pictures_;
+    std::shared_ptr<ConfirmationPause> pause_;
+};
 
 }  // namespace
 
@@ -270,6 +318,10 @@ void CValueActionsDlg::Move(int by) {
     std::swap(chain_[*selected], chain_[target]);
     WithoutNotifications([&] { ShowChain(target); });
     WriteNow();
+}
+
+ValueDlgPointer MakeActionsEditor(const EditorChoice&, Language language) {
+    return MakeDialog<CValueActionsDlg>(language);
 }
 
 }  // namespace qz

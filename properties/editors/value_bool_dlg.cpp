@@ -1,4 +1,5 @@
-#include "properties/editors/value_bool_dlg.h"
+// The editor of truth values.
+#include "properties/editors/make_editor.h"
 
 #include "res/dialog_ids.h"
 
@@ -12,6 +13,16 @@ WPARAM CheckStateOf(const _variant_t& value) {
     if (FAILED(converted)) return BST_INDETERMINATE;
     return truth.boolVal != VARIANT_FALSE ? BST_CHECKED : BST_UNCHECKED;
 }
+
+class CValueBoolDlg final : public CValueDlg {
+  public:
+    explicit CValueBoolDlg(Language language) noexcept;
+
+  private:
+    void ShowValue(const _variant_t* value) override;
+    std::optional<_variant_t> EnteredValue() const override;
+    bool OnEdited(int id, int notification) override;
+};
 
 }  // namespace
 
@@ -36,6 +47,10 @@ bool CValueBoolDlg::OnEdited(int id, int notification) {
     SendItem(QZ_EDITOR_CHECK, BM_SETSTYLE, BS_AUTOCHECKBOX, TRUE);
     WriteNow();
     return true;
+}
+
+ValueDlgPointer MakeBoolEditor(const EditorChoice&, Language language) {
+    return MakeDialog<CValueBoolDlg>(language);
 }
 
 }  // namespace qz

@@ -1,5 +1,8 @@
-#include "properties/editors/value_color_dlg.h"
+// The editor of colors: a palette, and a field of hexadecimal digits.
+#include "properties/editors/make_editor.h"
 
+#include "properties/editors/colour_field.h"
+#include "properties/editors/colour_palette.h"
 #include "properties/model/colour_text.h"
 #include "res/dialog_ids.h"
 #include "ui/gdi.h"
@@ -60,6 +63,36 @@ void DrawNoColour(HDC dc, const RECT& bounds) {
     MoveToEx(dc, bounds.left, bounds.bottom - 1, nullptr);
     LineTo(dc, bounds.right, bounds.top - 1);
 }
+
+/// A color as properties/model/colour_text.h tells it. What is typed is a color when it has six or eight
+/// digits; an empty field is none, the button for that writes "no color".
+class CValueColorDlg final : public CValueDlg {
+  public:
+    explicit CValueColorDlg(Language language);
+    ~CValueColorDlg() override;
+
+    /// Moves the focus to the palette.
+    void OpenPicker() override;
+
+  private:
+    void OnEditorInit() override;
+    void OnSized(SIZE client) override;
+    void ShowValue(const _variant_t* value) override;
+    std::optional<_variant_t> EnteredValue() const override;
+    bool OnEdited(int id, int notification) override;
+    bool KeepsReturn(HWND control) const override;
+    std::optional<LRESULT> OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+    void OnTyped();
+    void Choose(std::uint32_t colour);
+    void ShowColour(std::optional<std::uint32_t> colour);
+    void DrawPreview(const DRAWITEMSTRUCT& item) const;
+
+    ColourPalette palette_;
+    ColourField field_;
+    std::optional<std::uint32_t> colour_;  ///< Nothing while the field holds no color.
+    std::wstring text_;                    ///< Of the field, before the change under way.
+};
 
 }  // namespace
 
@@ -161,6 +194,10 @@ void CValueColorDlg::DrawPreview(const DRAWITEMSTRUCT& item) const {
     if (!colour_) return FillSolid(item.hDC, bounds, GetSysColor(COLOR_BTNFACE));
     if (*colour_ == noColour) return DrawNoColour(item.hDC, bounds);
     DrawChequered(item.hDC, bounds, *colour_, WindowDpi(Handle()) / 24);
+}
+
+ValueDlgPointer MakeColorEditor(const EditorChoice&, Language language) {
+    return MakeDialog<CValueColorDlg>(language);
 }
 
 }  // namespace qz

@@ -1,4 +1,5 @@
-#include "properties/editors/value_edit_dlg.h"
+// The editor with a text field: numbers, texts, files, fields of a database.
+#include "properties/editors/make_editor.h"
 
 #include "format/user_locale.h"
 #include "host/attributes.h"
@@ -6,8 +7,10 @@
 #include "host/text_variant.h"
 #include "panes/common/popup_menu.h"
 #include "properties/editors/choose_file.h"
+#include "properties/editors/entry_field.h"
 #include "properties/editors/shown_value.h"
 #include "properties/model/attribute_types.h"
+#include "properties/model/edit_rules.h"
 #include "properties/model/entry_layouts.h"
 #include "properties/model/picture_filter.h"
 #include "res/dialog_ids.h"
@@ -21,6 +24,7 @@
 #include <commctrl.h>
 
 #include <algorithm>
+#include <vector>
 
 namespace qz {
 
@@ -31,6 +35,44 @@ constexpr DWORD linesStyle =
 
 /// Menu ids have 16 bits.
 constexpr std::size_t mostMenuEntries = 0xFFFF;
+
+/// What the field takes, and what stands beside it, depends on the mode. Numbers are typed and shown with the
+/// decimal separator of the user's locale; an entry that makes no number is put back. The button of a
+/// database field offers the names of the document's form fields, if the object has a data source and a
+/// table.
+class CValueEditDlg final : public CValueDlg {
+  public:
+    CValueEditDlg(EditMode mode, Language language) noexcept;
+
+    /// Opens the file chooser or the menu of fields.
+    void OpenPicker() override;
+
+  private:
+    void OnEditorInit() override;
+    void OnSized(SIZE client) override;
+    void ShowValue(const _variant_t* value) override;
+    std::optional<_variant_t> EnteredValue() const override;
+    bool OnEdited(int id, int notification) override;
+    bool KeepsReturn(HWND control) const override;
+    std::optional<LRESULT> OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+    bool HoldsNumber() const noexcept { return mode_ == EditMode::Integer || mode_ == EditMode::Real; }
+    bool HasButton() const noexcept { return mode_ == EditMode::File || mode_ == EditMode::DatabaseField; }
+    std::wstring ShownTextOf(const VARIANT& value) const;
+    std::optional<_variant_t> EnteredNumber() const;
+    int ButtonWidth() const;
+    bool HasDatabase() const;
+    void OnTyped();
+    void Step(int step);
+    void ChoosePicture();
+    void ChooseField();
+    std::vector<std::wstring> FieldNames() const;
+    void Enter(const std::wstring& text);
+
+    EditMode mode_;
+    wchar_t separator_ = L'.';
+    EntryField field_;
+};
 
 }  // namespace
 
@@ -234,6 +276,10 @@ void CValueEditDlg::ChooseField() {
     GetWindowRect(Item(QZ_EDITOR_BUTTON), &button);
     const UINT chosen = menu.Track(Handle(), {button.left, button.bottom});
     if (chosen > 0 && chosen <= names.size()) Enter(names[chosen - 1]);
+}
+
+ValueDlgPointer MakeEditEditor(const EditorChoice& choice, Language language) {
+    return MakeDialog<CValueEditDlg>(choice.mode, language);
 }
 
 }  // namespace qz

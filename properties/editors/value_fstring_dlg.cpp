@@ -1,7 +1,9 @@
-#include "properties/editors/value_fstring_dlg.h"
+// The editor of lists of numbers.
+#include "properties/editors/make_editor.h"
 
 #include "com/safe_array.h"
 #include "host/array_elements.h"
+#include "properties/editors/entry_field.h"
 #include "properties/editors/shown_value.h"
 #include "properties/model/edit_rules.h"
 #include "properties/model/entry_layouts.h"
@@ -38,6 +40,23 @@ std::wstring ShownList(const VARIANT& value, std::uint32_t type) {
     return list.value_or(std::wstring());
 }
 
+/// The list as a text, one number a line: see properties/model/number_list.h. A text that is no such list is
+/// not written, and stays.
+class CValueFStringDlg final : public CValueDlg {
+  public:
+    explicit CValueFStringDlg(Language language) noexcept;
+
+  private:
+    void OnEditorInit() override;
+    void OnSized(SIZE client) override;
+    void ShowValue(const _variant_t* value) override;
+    std::optional<_variant_t> EnteredValue() const override;
+    bool OnEdited(int id, int notification) override;
+    bool KeepsReturn(HWND control) const override { return control == field_.Handle(); }
+
+    EntryField field_;
+};
+
 }  // namespace
 
 CValueFStringDlg::CValueFStringDlg(Language language) noexcept : CValueDlg(QZ_DIALOG_VALUE_LIST, language) {}
@@ -70,6 +89,10 @@ bool CValueFStringDlg::OnEdited(int id, int notification) {
     if (id != QZ_EDITOR_TEXT || notification != EN_CHANGE) return false;
     WriteLater();
     return true;
+}
+
+ValueDlgPointer MakeValueListEditor(const EditorChoice&, Language language) {
+    return MakeDialog<CValueFStringDlg>(language);
 }
 
 }  // namespace qz

@@ -1,5 +1,8 @@
-#include "properties/editors/value_object_list_dlg.h"
+// The editor of the list of fields that a form action concerns.
+#include "properties/editors/make_editor.h"
 
+#include "properties/editors/confirmation_pause.h"
+#include "properties/editors/listed_objects.h"
 #include "properties/editors/object_gathering.h"
 #include "properties/model/picker_layouts.h"
 #include "res/dialog_ids.h"
@@ -8,7 +11,10 @@
 #include "ui/platform_geometry.h"
 #include "ui/screen.h"
 
+#include <commctrl.h>
+
 #include <algorithm>
+#include <cstddef>
 #include <unordered_set>
 
 namespace qz {
@@ -26,6 +32,41 @@ std::unordered_set<std::wstring_view> PathsOf(const std::vector<ListedObject>& o
     for (const ListedObject& object : objects) paths.insert(object.path);
     return paths;
 }
+
+/// Lists the objects among which the user chooses, those that are in the attribute's value with a check mark.
+/// A check box leaves out what is no form field. While the editor is open the document's changes are not
+/// confirmed.
+class CValueObjectListDlg final : public CValueDlg {
+  public:
+    explicit CValueObjectListDlg(Language language) noexcept;
+
+  private:
+    struct Row {
+        ListedObject listed;
+        bool checked = false;
+    };
+
+    void OnEditorInit() override;
+    void OnSized(SIZE client) override;
+    void ShowValue(const _variant_t* value) override;
+    std::optional<_variant_t> EnteredValue() const override;
+    bool OnEdited(int id, int notification) override;
+    void OnFinished() override { pause_.reset(); }
+    std::optional<LRESULT> OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+    void FitColumn() const;
+    void Gather();
+    void FillList();
+    void AddChosenRows();
+    void InsertRow(std::size_t row) const;
+    void ShowChecks();
+    void OnItemChanged(const NMLISTVIEW& change);
+    void Choose(const ListedObject& object, bool chosen);
+
+    std::vector<Row> rows_;             ///< As in the list.
+    std::vector<ListedObject> chosen_;  ///< The value, in its order.
+    std::shared_ptr<ConfirmationPause> pause_;
+};
 
 }  // namespace
 
@@ -174,6 +215,10 @@ void CValueObjectListDlg::Choose(const ListedObject& object, bool chosen) {
         chosen_.push_back(object);
     else
         std::erase_if(chosen_, [&](const ListedObject& other) { return IsSame(other, object); });
+}
+
+ValueDlgPointer MakeObjectListEditor(const EditorChoice&, Language language) {
+    return MakeDialog<CValueObjectListDlg>(language);
 }
 
 }  // namespace qz
