@@ -2,7 +2,7 @@
 #pragma once
 
 #include "generated/reference_host.h"
-#include "host/bstr.h"
+#include "com/text.h"
 
 #include <comdef.h>
 

@@ -1,7 +1,7 @@
 #include "benchmarks/subjects.h"
 
 #include "com/error.h"
-#include "host/bstr.h"
+#include "com/text.h"
 #include "sample/host/reference_host.h"
 #include "tests/module/loaded_module.h"
 #include "tests/support/pane_window.h"

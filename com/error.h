@@ -1,5 +1,5 @@
-// The one way errors travel: inside the module they are thrown, at the COM boundary `Guard` turns them into
-// an HRESULT and an IErrorInfo with a readable text, which scripts show.
+// How errors travel: code of ours throws them, and where others call us `Guard` turns them into an HRESULT
+// and an IErrorInfo with a readable text, which scripts show.
 #pragma once
 
 #include <windows.h>
@@ -25,11 +25,11 @@ struct ComError : std::exception {
 /// Throws a ComError. An empty text is replaced by the system's own text for the code.
 [[noreturn]] void Throw(HRESULT code, std::wstring_view text = {});
 
-/// Throws an error that has its whole text already: one caught before, now with another code or at another
-/// place, or one that the object called has told itself. An empty text is replaced as above.
+/// Throws an error that has its whole text already: one that was caught, or told by the object that failed.
+/// An empty text is replaced as above.
 [[noreturn]] void Rethrow(HRESULT code, const std::wstring& text);
 
-/// Throws when `code` is a failure. `text` says what was attempted; the system's text is appended.
+/// Throws when `code` is a failure. `text` says what failed; the system's text is appended.
 inline void ThrowIfFailed(HRESULT code, const wchar_t* text = nullptr) {
     if (FAILED(code)) Throw(code, text ? std::wstring_view(text) : std::wstring_view());
 }
@@ -37,24 +37,25 @@ inline void ThrowIfFailed(HRESULT code, const wchar_t* text = nullptr) {
 /// Throws E_POINTER when an argument that must not be null is null.
 void RequirePointer(const void* pointer);
 
-/// Throws the last Windows error when `succeeded` is false.
+/// Throws the last Windows error, or E_FAIL when there is none, with `text` as above.
 void ThrowLastErrorIf(bool failed, const wchar_t* text);
 
 /// The system's text for an HRESULT, without a trailing line break.
 std::wstring DescribeError(HRESULT code);
 
-/// Sets the thread's IErrorInfo, naming `iid` as the interface that failed. Never throws.
+/// Sets the thread's IErrorInfo, naming `iid` as the interface that failed. Where the system has no memory
+/// for it, what was set before stays.
 void SetErrorText(REFIID iid, const std::wstring& text) noexcept;
 
-/// Takes the text of the thread's IErrorInfo: what the failed call has told. Without one it is the system's
-/// for `code`.
+/// Takes the thread's IErrorInfo and gives its text: what the failed call has told. Without one the text is
+/// the system's for `code`.
 std::wstring TakeErrorText(HRESULT code);
 
-/// To be called inside a catch block: the HRESULT for the exception in flight; sets IErrorInfo.
+/// Gives the HRESULT for the exception in flight and sets IErrorInfo. To be called inside a catch block.
 HRESULT TurnException(REFIID iid) noexcept;
 
-/// Runs a member's body (returning void or an HRESULT) and lets no exception pass. Every failure leaves an
-/// IErrorInfo behind.
+/// Runs a member's body, which returns nothing or an HRESULT, and lets no exception pass. A failure leaves an
+/// IErrorInfo behind: an exception its own text, a returned code the system's.
 template <class Body>
 HRESULT Guard(REFIID iid, Body&& body) noexcept {
     try {

@@ -1,7 +1,7 @@
 // Reading and writing the attributes of host objects by path and name.
 #pragma once
 
-#include "host/bstr.h"
+#include "com/text.h"
 
 #include "generated/vandra_x.h"
 

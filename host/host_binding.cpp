@@ -1,12 +1,10 @@
 #include "host/host_binding.h"
 
-#include "host/host_sink.h"
-
-#include <ocidl.h>
-
 namespace qz {
 
 namespace {
+
+constexpr DISPID changedEvent = 5;
 
 ComPtr<IVandraX> QueryHost(IDispatch* candidate) {
     if (!candidate) Throw(E_INVALIDARG, L"No host was given");
@@ -32,19 +30,19 @@ HostBinding::~HostBinding() { Detach(); }
 
 void HostBinding::Attach(IDispatch* candidate) {
     const ComPtr<IVandraX> host = QueryHost(candidate);
-    const ComPtr<IConnectionPoint> events = QueryEvents(host.Get());
-    const ComPtr<HostSink> sink = MakeObject<HostSink>(listener_);
+    const ComPtr<IConnectionPoint> point = QueryEvents(host.Get());
     Detach();
-    DWORD cookie = 0;
-    ThrowIfFailed(events->Advise(sink->Identity(), &cookie), L"The host refuses the event connection");
+    auto events =
+        std::make_unique<EventConnection>(point, DIID__IVandraXEvents, [this](DISPID event, DISPPARAMS&) {
+            if (event == changedEvent) listener_.OnHostChanged();
+        });
     Detach();  // a host that was attached inside the calls above would keep its sink
+    const unsigned attachment = ++attachments_;
     host_ = host;
-    events_ = events;
-    sink_ = sink;
-    cookie_ = cookie;
+    events_ = std::move(events);
     short language = 0;
     const HRESULT result = host->GetLanguageId(&language);
-    const bool replaced = sink_.Get() != sink.Get();  // by an attachment made inside that call, which stays
+    const bool replaced = attachments_ != attachment;  // by one made inside that call, which stays
     if (FAILED(result)) {
         if (!replaced) Detach();
         Throw(result, L"The host does not tell its language");
@@ -53,14 +51,11 @@ void HostBinding::Attach(IDispatch* candidate) {
 }
 
 void HostBinding::Detach() noexcept {
-    // Taken out of the members first: each of these calls may come back here.
+    // Taken out of the members first: the calls by which they go may come back here.
     const ComPtr<IVandraX> host = std::move(host_);
-    const ComPtr<IConnectionPoint> events = std::move(events_);
-    const ComPtr<HostSink> sink = std::move(sink_);
+    const std::unique_ptr<EventConnection> events = std::move(events_);
+    ++attachments_;
     languageId_ = 0;
-    if (sink) sink->Disconnect();
-    // A host that refuses is left with a sink that hears nothing.
-    if (events) events->Unadvise(std::exchange(cookie_, 0));
 }
 
 }  // namespace qz

@@ -1,15 +1,14 @@
 // The tie between a component and its host: one counted reference, one event sink.
 #pragma once
 
-#include "com/object.h"
+#include "com/event_connection.h"
 
 #include "generated/vandra_x.h"
 
 #include <cstdint>
+#include <memory>
 
 namespace qz {
-
-class HostSink;
 
 /// What a component does when its host changed. Called on the host's thread, inside the host's event; the
 /// component must keep itself alive through it.
@@ -46,9 +45,8 @@ class HostBinding {
   private:
     HostListener& listener_;
     ComPtr<IVandraX> host_;
-    ComPtr<IConnectionPoint> events_;
-    ComPtr<HostSink> sink_;
-    DWORD cookie_ = 0;
+    std::unique_ptr<EventConnection> events_;
+    unsigned attachments_ = 0;  ///< Counts each that was made or ended.
     std::uint16_t languageId_ = 0;
 };
 

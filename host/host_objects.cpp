@@ -2,7 +2,7 @@
 
 #include "host/array_elements.h"
 #include "host/attributes.h"
-#include "host/text_variant.h"
+#include "com/text.h"
 
 namespace qz {
 

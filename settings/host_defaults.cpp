@@ -1,7 +1,7 @@
 #include "settings/host_defaults.h"
 
 #include "com/object.h"
-#include "host/bstr.h"
+#include "com/text.h"
 #include "host/object_path.h"
 #include "settings/flat_file_reader.h"
 

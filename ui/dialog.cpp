@@ -1,8 +1,8 @@
 #include "ui/dialog.h"
 
-#include "ui/accessible_name.h"
-
+#include "com/scope.h"
 #include "res/strings.h"
+#include "ui/accessible_name.h"
 #include "ui/child_window.h"
 #include "ui/window.h"
 
@@ -58,18 +58,6 @@ void FocusFirstControl(HWND dialog) noexcept {
     }
 }
 
-/// Says which loop runs a dialog as long as it does.
-class ModalScope {
-  public:
-    ModalScope(ModalLoop*& running, ModalLoop& loop) noexcept : running_(running) { running_ = &loop; }
-    ~ModalScope() { running_ = nullptr; }
-    ModalScope(const ModalScope&) = delete;
-    ModalScope& operator=(const ModalScope&) = delete;
-
-  private:
-    ModalLoop*& running_;
-};
-
 }  // namespace
 
 std::wstring WindowText(HWND window) {
@@ -93,7 +81,7 @@ void Dialog::Create(HWND parent) {
 INT_PTR Dialog::RunModal(HWND owner) {
     if (handle_) Throw(E_UNEXPECTED, L"The dialog is there already");
     ModalLoop loop(owner);
-    const ModalScope scope(modal_, loop);
+    const ScopedValue running(modal_, &loop);
     MakeWindow(owner);
     const INT_PTR result = loop.Run(handle_);
     Destroy();

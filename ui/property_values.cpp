@@ -1,5 +1,8 @@
 #include "ui/property_values.h"
 
+#include "com/exception_info.h"
+#include "com/text.h"
+
 #include <string_view>
 
 namespace qz {
@@ -23,26 +26,13 @@ HRESULT Convert(VARIANT& value, VARTYPE type) noexcept {
     return S_OK;
 }
 
-/// EXCEPINFO that frees its texts.
-struct Exception : EXCEPINFO {
-    Exception() noexcept : EXCEPINFO{} {}
-    Exception(const Exception&) = delete;
-    Exception& operator=(const Exception&) = delete;
-    ~Exception() {
-        SysFreeString(bstrSource);
-        SysFreeString(bstrDescription);
-        SysFreeString(bstrHelpFile);
-    }
-};
-
 void Invoke(IDispatch* object, DISPID id, WORD how, DISPPARAMS& parameters, VARIANT* result) {
-    Exception exception;
+    ExceptionInfo exception;
     const HRESULT code =
         object->Invoke(id, IID_NULL, LOCALE_INVARIANT, how, &parameters, result, &exception, nullptr);
     if (code == DISP_E_EXCEPTION) {
-        if (exception.pfnDeferredFillIn) exception.pfnDeferredFillIn(&exception);
-        throw ComError(FAILED(exception.scode) ? exception.scode : E_FAIL,
-                       exception.bstrDescription ? exception.bstrDescription : L"");
+        const HRESULT inner = exception.Code();
+        Rethrow(inner, exception.Description());
     }
     ThrowIfFailed(code, L"A property of the control does not answer");
 }
@@ -64,7 +54,7 @@ Form FormOf(VARTYPE type) {
 }
 
 std::u16string TextOf(BSTR text) {
-    const std::wstring_view view(text ? text : L"", SysStringLen(text));
+    const std::wstring_view view = TextView(text);
     return {view.begin(), view.end()};
 }
 
@@ -73,12 +63,7 @@ struct VariantMaker {
     _variant_t operator()(double value) const { return _variant_t(value); }
     _variant_t operator()(bool value) const { return _variant_t(value); }
     _variant_t operator()(const std::u16string& value) const {
-        const std::wstring text(value.begin(), value.end());
-        _variant_t result;
-        result.bstrVal = SysAllocStringLen(text.data(), static_cast<UINT>(text.size()));
-        if (!result.bstrVal) Throw(E_OUTOFMEMORY);
-        result.vt = VT_BSTR;
-        return result;
+        return TextVariant(std::wstring(value.begin(), value.end()));
     }
 };
 

@@ -1,5 +1,6 @@
 #include "dialogs/dispatcher/plugin_ui_dialogs.h"
 
+#include "com/scope.h"
 #include "com/text.h"
 #include "host/host_language.h"
 #include "ui/parent_window.h"
@@ -8,31 +9,11 @@
 
 namespace qz {
 
-namespace {
-
-/// Sets the mode of the call in progress, and back to that of the call around it.
-class ModeScope {
-  public:
-    ModeScope(CallMode& mode, CallMode now) noexcept : mode_(mode), before_(std::exchange(mode, now)) {}
-    ~ModeScope() { mode_ = before_; }
-    ModeScope(const ModeScope&) = delete;
-    ModeScope& operator=(const ModeScope&) = delete;
-
-  private:
-    CallMode& mode_;
-    CallMode before_;
-};
-
-}  // namespace
-
 STDMETHODIMP PluginUIDialogs::Invoke(DISPID id, REFIID iid, LCID locale, WORD flags, DISPPARAMS* parameters,
                                      VARIANT* result, EXCEPINFO* exception, UINT* badArgument) {
     const ComPtr<IUnknown> alive = Identity();
-    lateBound_ = true;
-    const HRESULT answer =
-        Dispatch::Invoke(id, iid, locale, flags, parameters, result, exception, badArgument);
-    lateBound_ = false;
-    return answer;
+    const ScopedValue lateBound(lateBound_, true);
+    return Dispatch::Invoke(id, iid, locale, flags, parameters, result, exception, badArgument);
 }
 
 STDMETHODIMP PluginUIDialogs::put_BookmarkCtrl(IDispatch* newVal) {
@@ -102,7 +83,7 @@ STDMETHODIMP PluginUIDialogs::EndWindow(qzPluginUIDialogsCommands dialogID, long
 HRESULT PluginUIDialogs::Run(CallMode mode, long command, const VARIANT* dataIn, VARIANT* dataOut) {
     const ComPtr<IUnknown> alive = Identity();
     lastResult_ = Guard(__uuidof(IqzPluginUIDialogs), [&]() -> HRESULT {
-        const ModeScope scope(mode_, mode);
+        const ScopedValue calling(mode_, mode);
         ToolCall call = MakeCall(mode, dataIn, dataOut);
         const ToolCommand& tool = RequireCommand(command);
         call.host = host_;  // kept, for the host may take itself out while it is asked

@@ -1,5 +1,6 @@
 #include "dialogs/dispatcher/record_commands.h"
 
+#include "com/stream.h"
 #include "dialogs/docx/docx_settings_dlg.h"
 #include "dialogs/nup/nup_settings_dlg.h"
 #include "host/host_language.h"
@@ -13,8 +14,7 @@ namespace {
 
 /// The record's text in a stream of its own, rewound.
 ComPtr<IStream> StreamOf(zrSettings& record) {
-    ComPtr<IStream> stream;
-    ThrowIfFailed(CreateStreamOnHGlobal(nullptr, TRUE, &stream));
+    ComPtr<IStream> stream = MakeMemoryStream();
     record.Save(stream.Get());
     ThrowIfFailed(stream->Seek({}, STREAM_SEEK_SET, nullptr));
     return stream;

@@ -1,6 +1,8 @@
 #include "dialogs/document/doc_settings_dlg.h"
 
 #include "dialogs/document/doc_settings_window.h"
+#include "com/scope.h"
+#include "com/text.h"
 #include "host/host_calls.h"
 #include "host/host_language.h"
 #include "host/object_path.h"
@@ -26,18 +28,6 @@ void RunDialog(const ComPtr<IVandraX>& host, HWND parent) {
     MakeDialog<DocSettingsWindow>(source, language)->RunModal(parent);
 }
 
-/// Marks the dialog as open.
-class OpenMark {
-  public:
-    explicit OpenMark(bool& open) noexcept : open_(open) { open_ = true; }
-    ~OpenMark() { open_ = false; }
-    OpenMark(const OpenMark&) = delete;
-    OpenMark& operator=(const OpenMark&) = delete;
-
-  private:
-    bool& open_;
-};
-
 }  // namespace
 
 STDMETHODIMP DocSettingsDlg::Initialize(IDispatch* VandraX) {
@@ -54,7 +44,7 @@ STDMETHODIMP DocSettingsDlg::DoModal(VARIANT hWndParent) {
         const HWND parent = ParentWindow(hWndParent);
         if (!host_) Throw(E_POINTER, L"The document settings need a host: call Initialize first");
         if (open_) Throw(E_FAIL, L"The dialog is open already");
-        const OpenMark mark(open_);
+        const ScopedValue open(open_, true);
         const ComPtr<IVandraX> host = host_;  // it may be put anew while the dialog runs
         RunDialog(host, parent);
     });

@@ -1,5 +1,6 @@
 #include "dialogs/document/doc_settings_window.h"
 
+#include "com/scope.h"
 #include "dialogs/document/fonts_tab.h"
 #include "dialogs/document/information_tab.h"
 #include "dialogs/document/page_setup_tab.h"
@@ -110,9 +111,10 @@ bool DocSettingsWindow::OnCommand(int id, int) {
 
 /// The host may handle messages meanwhile: a second OK, or Cancel, must not come between.
 void DocSettingsWindow::Accept() {
-    busy_ = true;
-    const HRESULT outcome = Guard(IID_NULL, [this] { WriteTabs(); });
-    busy_ = false;
+    const HRESULT outcome = Guard(IID_NULL, [this] {
+        const ScopedValue busy(busy_, true);
+        WriteTabs();
+    });
     if (FAILED(outcome)) ShowErrorInDebugger();
 }
 

@@ -3,9 +3,9 @@
 #include "dialogs/document/entered_text.h"
 #include "dialogs/document/list_columns.h"
 #include "host/attributes.h"
+#include "com/text.h"
 #include "host/host_calls.h"
 #include "host/object_path.h"
-#include "host/text_variant.h"
 #include "res/dialog_ids.h"
 #include "res/text_ids.h"
 

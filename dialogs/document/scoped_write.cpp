@@ -1,7 +1,7 @@
 #include "dialogs/document/scoped_write.h"
 
+#include "com/text.h"
 #include "host/object_path.h"
-#include "host/text_variant.h"
 
 namespace qz {
 

@@ -2,7 +2,7 @@
 
 #include "dialogs/common/setting_field.h"
 #include "dialogs/document/entered_text.h"
-#include "host/text_variant.h"
+#include "com/text.h"
 #include "res/dialog_ids.h"
 #include "res/text_ids.h"
 

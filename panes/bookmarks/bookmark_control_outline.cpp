@@ -1,6 +1,7 @@
 // The pane's tie to the host, and the reading of the host's outline into the tree.
 #include "panes/bookmarks/bookmark_control.h"
 
+#include "com/scope.h"
 #include "host/auto_refresh.h"
 #include "host/host_calls.h"
 #include "panes/common/asked_by_user.h"
@@ -18,18 +19,6 @@ namespace {
 constexpr DISPID sizeToZero = 2;
 
 [[noreturn]] void ThrowReplaced() { Throw(E_FAIL, L"The outline was replaced while it was being read"); }
-
-/// Sets a flag for a scope.
-class FlagScope {
-  public:
-    explicit FlagScope(bool& flag) noexcept : flag_(flag) { flag_ = true; }
-    ~FlagScope() { flag_ = false; }
-    FlagScope(const FlagScope&) = delete;
-    FlagScope& operator=(const FlagScope&) = delete;
-
-  private:
-    bool& flag_;
-};
 
 }  // namespace
 
@@ -72,7 +61,7 @@ class BookmarkControl::ReadingProgress {
           progress_(std::in_place, pane.OwnerOfModal(), pane.TextLanguage(),
                     LoadText(pane.TextLanguage(), QZ_TEXT_READING_BOOKMARKS)) {}
     ~ReadingProgress() {
-        const FlagScope turn(pane_.othersTurn_);
+        const ScopedValue turn(pane_.othersTurn_, true);
         progress_.reset();
     }
     ReadingProgress(const ReadingProgress&) = delete;
@@ -83,7 +72,7 @@ class BookmarkControl::ReadingProgress {
         if (silence_) silence_->End();
         bool goesOn = false;
         {
-            const FlagScope turn(pane_.othersTurn_);
+            const ScopedValue turn(pane_.othersTurn_, true);
             goesOn = progress_->GoOn(walk_.Share());
         }
         if (silence_) silence_->Resume();
@@ -136,7 +125,7 @@ HRESULT BookmarkControl::Rebuild(const OutlineLimits& limits) {
     const ShownDocument shown = Shown();
     if (!shown.Host() || refreshing_) return S_OK;
     return EndableByRefresh([&] {
-        const FlagScope refreshing(refreshing_);
+        const ScopedValue refreshing(refreshing_, true);
         return ReadOutline(shown, limits);
     });
 }

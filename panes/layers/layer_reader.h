@@ -2,7 +2,7 @@
 #pragma once
 
 #include "com/com_ptr.h"
-#include "host/bstr.h"
+#include "com/text.h"
 #include "panes/layers/layer_records.h"
 
 #include "generated/vandra_x.h"

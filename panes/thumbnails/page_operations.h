@@ -4,7 +4,7 @@
 
 #include "com/object.h"
 #include "host/attributes.h"
-#include "host/bstr.h"
+#include "com/text.h"
 #include "panes/thumbnails/page_placing.h"
 
 #include <objidl.h>

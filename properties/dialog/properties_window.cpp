@@ -1,5 +1,7 @@
 #include "properties/dialog/properties_window.h"
 
+#include "com/scope.h"
+#include "com/text.h"
 #include "host/host_calls.h"
 #include "host/late_bound.h"
 #include "properties/model/window_placement.h"
@@ -130,8 +132,8 @@ void PropertiesWindow::OpenInspector() {
     // In the order of the Tab key it stands where the template has its place.
     SetWindowPos(site_.Window(), Item(QZ_PROPERTIES_INSPECTOR), 0, 0, 0, 0,
                  SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
-    sink_ = MakeObject<DispatchSink>([this](DISPID event) { HearInspector(event); });
-    sink_->Connect(static_cast<IqzPropCtrl*>(inspector_.Get()), DIID__IqzPropCtrlEvents);
+    events_.emplace(static_cast<IqzPropCtrl*>(inspector_.Get()), DIID__IqzPropCtrlEvents,
+                    [this](DISPID event, DISPPARAMS&) { HearInspector(event); });
 }
 
 void PropertiesWindow::CloseInspector() noexcept {
@@ -140,7 +142,7 @@ void PropertiesWindow::CloseInspector() noexcept {
     inspector_ = nullptr;
     if (!inspector) return;
     site_.Close();  // what waits in an editor is written, and may say so
-    if (sink_) sink_->Disconnect();
+    events_.reset();
     inspector->TellFollowed(nullptr);
     inspector->put_VandraX(nullptr);
 }
@@ -155,11 +157,10 @@ void PropertiesWindow::HearInspector(DISPID event) {
 }
 
 void PropertiesWindow::ShowCaption() {
-    BSTR name = nullptr;
-    if (inspector_ && SUCCEEDED(inspector_->get_SelectionName(&name))) {
-        SetWindowTextW(Handle(), (captionStart + std::wstring(name, SysStringLen(name))).c_str());
+    _bstr_t name;
+    if (inspector_ && SUCCEEDED(inspector_->get_SelectionName(name.GetAddress()))) {
+        SetWindowTextW(Handle(), (captionStart + std::wstring(TextView(name.GetBSTR()))).c_str());
     }
-    SysFreeString(name);
 }
 
 void PropertiesWindow::TakeHost() {
@@ -251,9 +252,11 @@ std::wstring PropertiesWindow::ChosenPath() const {
 }
 
 void PropertiesWindow::OnObjectChosen() {
-    if (std::exchange(choosing_, true)) return;
-    const HRESULT outcome = Guard(IID_NULL, [this] { ShowChosen(ChosenPath()); });
-    choosing_ = false;
+    if (choosing_) return;
+    const HRESULT outcome = Guard(IID_NULL, [this] {
+        const ScopedValue choosing(choosing_, true);
+        ShowChosen(ChosenPath());
+    });
     if (FAILED(outcome)) TellFailure(outcome);
 }
 
@@ -284,11 +287,14 @@ void PropertiesWindow::ShowChosen(const std::wstring& path) {
 // ------------------------------------------------------------------------------------------------------
 
 void PropertiesWindow::RequestClose(INT_PTR result) {
-    if (std::exchange(closing_, true)) return;
+    if (closing_) return;
     const ComPtr<PropControl> inspector = inspector_;
     long answer = 0;
-    const HRESULT asked = inspector ? inspector->Closing(&answer) : S_OK;
-    closing_ = false;
+    HRESULT asked = S_OK;
+    if (inspector) {
+        const ScopedValue closing(closing_, true);
+        asked = inspector->Closing(&answer);
+    }
     if (FAILED(asked)) return TellFailure(asked);
     if (answer != IDCANCEL && Handle()) End(result);
 }
@@ -303,9 +309,9 @@ void PropertiesWindow::End(INT_PTR result) noexcept {
 /// The dialog stays open: nothing that the user did is lost.
 void PropertiesWindow::TellFailure(HRESULT code) {
     ++childDialogs_;
+    const ScopeExit closed([this] { --childDialogs_; });
     const std::wstring caption = LoadText(TextLanguage(), QZ_TEXT_PROPERTIES);
     MessageBoxW(Handle(), TakeErrorText(code).c_str(), caption.c_str(), MB_OK | MB_ICONWARNING);
-    --childDialogs_;
 }
 
 bool PropertiesWindow::ClosesWhenLeft() const noexcept {

@@ -1,7 +1,7 @@
 // The window of the properties dialog: object list, pin, inspector, OK and Cancel.
 #pragma once
 
-#include "com/dispatch_sink.h"
+#include "com/event_connection.h"
 #include "properties/dialog/placement_memory.h"
 #include "properties/editors/edited_attribute.h"
 #include "properties/inspector/prop_control.h"
@@ -88,7 +88,7 @@ class PropertiesWindow final : public Dialog {
     int childDialogs_ = 0;  ///< Modal windows of the inspector that are open.
     HostedControl site_;
     ComPtr<PropControl> inspector_;
-    ComPtr<DispatchSink> sink_;
+    std::optional<EventConnection> events_;
     std::optional<ModelessKeyboard> keyboard_;
     Bitmap pinned_, unpinned_;
 };

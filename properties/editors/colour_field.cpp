@@ -1,5 +1,6 @@
 #include "properties/editors/colour_field.h"
 
+#include "com/scope.h"
 #include "properties/model/colour_text.h"
 
 #include <string>
@@ -10,30 +11,15 @@ namespace {
 
 constexpr WPARAM pasteCharacter = 0x16;  // of Ctrl+V
 
-class OpenClipboardScope {
-  public:
-    explicit OpenClipboardScope(HWND owner) noexcept : open_(OpenClipboard(owner) != FALSE) {}
-    ~OpenClipboardScope() {
-        if (open_) CloseClipboard();
-    }
-    OpenClipboardScope(const OpenClipboardScope&) = delete;
-    OpenClipboardScope& operator=(const OpenClipboardScope&) = delete;
-
-    explicit operator bool() const noexcept { return open_; }
-
-  private:
-    bool open_;
-};
-
 /// Empty when there is no text, or when another program holds the clipboard.
 std::wstring ClipboardText(HWND owner) {
-    const OpenClipboardScope clipboard(owner);
-    const HANDLE data = clipboard ? GetClipboardData(CF_UNICODETEXT) : nullptr;
+    if (!OpenClipboard(owner)) return {};
+    const ScopeExit closing([] { CloseClipboard(); });
+    const HANDLE data = GetClipboardData(CF_UNICODETEXT);
     const auto* const text = data ? static_cast<const wchar_t*>(GlobalLock(data)) : nullptr;
     if (!text) return {};
-    std::wstring copy(text, wcsnlen(text, GlobalSize(data) / sizeof(wchar_t)));
-    GlobalUnlock(data);
-    return copy;
+    const ScopeExit unlocking([data] { GlobalUnlock(data); });
+    return {text, wcsnlen(text, GlobalSize(data) / sizeof(wchar_t))};
 }
 
 /// Below the blank are the keys that edit: backspace, copy, cut, undo.

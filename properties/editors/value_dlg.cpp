@@ -103,7 +103,7 @@ bool CValueDlg::Write(Writing&& writing) {
     if (ReadOnly() || state_.Writing()) return false;
     state_.BeginWrite();
     const HRESULT outcome = Guard(IID_NULL, std::forward<Writing>(writing));
-    state_.EndWrite(SUCCEEDED(outcome));  // before the user is told: what he entered is to stay meanwhile
+    state_.EndWrite(SUCCEEDED(outcome));  // before the user is told: what they entered is to stay meanwhile
     if (FAILED(outcome)) TellFailure(TakeErrorText(outcome));
     return SUCCEEDED(outcome);
 }

@@ -1,6 +1,7 @@
 // The base of the value editors: a small dialog that changes one attribute of a host object.
 #pragma once
 
+#include "com/scope.h"
 #include "properties/editors/edited_attribute.h"
 #include "properties/model/edit_state.h"
 #include "ui/child_keys.h"
@@ -110,12 +111,8 @@ class CValueDlg : public Dialog, private ChildKeyListener {
     /// Does something to the controls whose notifications mean nothing.
     template <class Change>
     void WithoutNotifications(Change&& change) {
-        struct Restoring {
-            EditState& state;
-            bool before;
-            ~Restoring() { state.ChangeOwnControls(before); }
-        };
-        const Restoring restoring{state_, state_.ChangeOwnControls(true)};
+        const bool before = state_.ChangeOwnControls(true);
+        const ScopeExit restored([this, before] { state_.ChangeOwnControls(before); });
         change();
     }
 

@@ -4,7 +4,7 @@
 #include "format/user_locale.h"
 #include "host/attributes.h"
 #include "host/object_path.h"
-#include "host/text_variant.h"
+#include "com/text.h"
 #include "panes/common/popup_menu.h"
 #include "properties/editors/choose_file.h"
 #include "properties/editors/entry_field.h"

@@ -2,7 +2,7 @@
 #include "properties/editors/make_editor.h"
 
 #include "host/attributes.h"
-#include "host/bstr.h"
+#include "com/text.h"
 #include "host/object_path.h"
 #include "properties/editors/font_chooser.h"
 #include "properties/model/font_value.h"

@@ -5,7 +5,7 @@
 #include "format/formatter.h"
 #include "format/predefined_formats.h"
 #include "host/attributes.h"
-#include "host/bstr.h"
+#include "com/text.h"
 #include "properties/model/picker_layouts.h"
 #include "res/dialog_ids.h"
 #include "ui/platform_geometry.h"

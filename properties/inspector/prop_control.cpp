@@ -1,6 +1,7 @@
 // The inspector's members, its tie to the host, and the object that it inspects.
 #include "properties/inspector/prop_control.h"
 
+#include "com/text.h"
 #include "host/attributes.h"
 #include "host/host_calls.h"
 #include "host/object_path.h"
@@ -67,8 +68,7 @@ STDMETHODIMP PropControl::get_SelectionName(BSTR* pVal) {
         const bool named = object && selected.value_or(0) < 2;
         const std::wstring name = named ? members->objects.Name(object.Get()) : std::wstring();
         const std::wstring caption = SelectionCaption(object != nullptr, selected, name);
-        *pVal = SysAllocStringLen(caption.data(), static_cast<UINT>(caption.size()));
-        if (!*pVal) Throw(E_OUTOFMEMORY);
+        *pVal = MakeText(caption);
     });
 }
 

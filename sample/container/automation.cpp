@@ -1,5 +1,6 @@
 #include "sample/container/automation.h"
 
+#include "com/exception_info.h"
 #include "sample/container/error_text.h"
 
 #include <algorithm>
@@ -13,26 +14,17 @@ HRESULT FindMember(IDispatch* object, const wchar_t* name, DISPID& id) {
     return object->GetIDsOfNames(IID_NULL, &writable, 1, LOCALE_USER_DEFAULT, &id);
 }
 
-/// Why a call failed, in the words of the called object.
-std::wstring TakeDescription(EXCEPINFO& exception) {
-    if (exception.pfnDeferredFillIn) exception.pfnDeferredFillIn(&exception);
-    const _bstr_t source(exception.bstrSource, false);
-    const _bstr_t help(exception.bstrHelpFile, false);
-    const _bstr_t description(exception.bstrDescription, false);
-    return description.length() ? std::wstring(description, description.length()) : std::wstring();
-}
-
 _variant_t Invoke(IDispatch* object, const wchar_t* name, WORD flags, DISPPARAMS parameters) {
     DISPID id = DISPID_UNKNOWN;
     RequireSuccess(FindMember(object, name, id), name);
     _variant_t result;
-    EXCEPINFO exception{};
+    ExceptionInfo exception;
     const bool put = (flags & DISPATCH_PROPERTYPUT) != 0;
     const HRESULT code = object->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, flags, &parameters,
                                         put ? nullptr : &result, &exception, nullptr);
     if (code == DISP_E_EXCEPTION) {
-        const HRESULT inner = FAILED(exception.scode) ? exception.scode : E_FAIL;
-        ThrowDescribed(inner, name, TakeDescription(exception));
+        const HRESULT inner = exception.Code();
+        ThrowDescribed(inner, name, exception.Description());
     }
     RequireSuccess(code, name);
     return result;

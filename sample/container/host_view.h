@@ -2,8 +2,8 @@
 #pragma once
 
 #include "com/object.h"
+#include "com/event_connection.h"
 #include "host/object_path.h"
-#include "sample/container/event_sink.h"
 #include "sample/container/layout.h"
 
 #include "generated/reference_host.h"

@@ -3,7 +3,7 @@
 
 #include "sample/container/app_window.h"
 #include "sample/container/pane_site.h"
-#include "sample/container/event_sink.h"
+#include "com/event_connection.h"
 #include "sample/container/fonts.h"
 #include "sample/container/pane_table.h"
 

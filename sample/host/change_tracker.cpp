@@ -1,7 +1,5 @@
 #include "sample/host/change_tracker.h"
 
-#include <utility>
-
 namespace qz::sample {
 
 uint32_t ChangeTracker::Differences(const ViewState& view) const {
@@ -24,13 +22,6 @@ uint32_t ChangeTracker::Take(const ViewState& view) {
 }
 
 ChangeTracker::Raising::Raising(ChangeTracker& tracker, uint32_t flags)
-    : tracker_(tracker),
-      outerRaising_(std::exchange(tracker.raising_, true)),
-      outerTold_(std::exchange(tracker.told_, flags)) {}
-
-ChangeTracker::Raising::~Raising() {
-    tracker_.raising_ = outerRaising_;
-    tracker_.told_ = outerTold_;
-}
+    : raising_(tracker.raising_, true), told_(tracker.told_, flags) {}
 
 }  // namespace qz::sample

@@ -1,6 +1,7 @@
 // What has to be told to those who follow the host, and when.
 #pragma once
 
+#include "com/scope.h"
 #include "host/change_flags.h"
 
 #include <cstdint>
@@ -38,14 +39,10 @@ class ChangeTracker {
     class Raising {
       public:
         Raising(ChangeTracker& tracker, uint32_t flags);
-        ~Raising();
-        Raising(const Raising&) = delete;
-        Raising& operator=(const Raising&) = delete;
 
       private:
-        ChangeTracker& tracker_;
-        bool outerRaising_;
-        uint32_t outerTold_;
+        ScopedValue<bool> raising_;
+        ScopedValue<uint32_t> told_;
     };
 
     /// Counts the view as told without an event.

@@ -3,6 +3,8 @@
 #include "com/module.h"
 #include "com/object.h"
 
+#include <comdef.h>
+
 #include <string>
 
 namespace qz::sample {
@@ -61,9 +63,8 @@ void UnregisterHost() {
                           L"The class cannot be unregistered");
         }
     }
-    BSTR path = nullptr;
-    if (FAILED(QueryPathOfRegTypeLib(libraryId, 6, 5, 0, &path))) return;  // none to remove
-    SysFreeString(path);
+    _bstr_t path;
+    if (FAILED(QueryPathOfRegTypeLib(libraryId, 6, 5, 0, path.GetAddress()))) return;  // none to remove
     ThrowIfFailed(UnRegisterTypeLib(libraryId, 6, 5, 0, SYS_WIN64),
                   L"The type library cannot be unregistered");
 }

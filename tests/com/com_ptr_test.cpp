@@ -1,5 +1,5 @@
 // When two references are the same object.
-#include "com/dispatch_sink.h"
+#include "com/object.h"
 
 #include <gtest/gtest.h>
 

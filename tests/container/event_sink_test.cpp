@@ -1,4 +1,4 @@
-#include "sample/container/event_sink.h"
+#include "com/event_connection.h"
 
 #include "sample/container/event_text.h"
 #include "tests/com/test_source.h"

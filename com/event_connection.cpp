@@ -1,6 +1,4 @@
-#include "sample/container/event_sink.h"
-
-#include "sample/container/error_text.h"
+#include "com/event_connection.h"
 
 namespace qz {
 
@@ -24,11 +22,19 @@ class EventDispatch : public IDispatch {
         return E_NOTIMPL;
     }
     // Whoever raises events knows their numbers.
-    STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
+    STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return DISP_E_UNKNOWNNAME; }
 
   protected:
     IID events_ = IID_NULL;
 };
+
+ComPtr<IConnectionPoint> PointOf(IUnknown* source, REFIID events) {
+    ComPtr<IConnectionPointContainer> container;
+    ComPtr<IConnectionPoint> point;
+    ThrowIfFailed(source->QueryInterface(IID_PPV_ARGS(&container)), L"The object raises no events");
+    ThrowIfFailed(container->FindConnectionPoint(events, &point), L"The object does not raise these events");
+    return point;
+}
 
 }  // namespace
 
@@ -38,13 +44,13 @@ class EventConnection::Sink final : public Object<Sink, EventDispatch> {
 
     void Disconnect() noexcept { handler_ = nullptr; }
 
-    STDMETHODIMP Invoke(DISPID event, REFIID iid, LCID, WORD, DISPPARAMS* parameters, VARIANT*, EXCEPINFO*,
+    STDMETHODIMP Invoke(DISPID event, REFIID, LCID, WORD, DISPPARAMS* parameters, VARIANT*, EXCEPINFO*,
                         UINT*) override {
-        if (iid != IID_NULL) return DISP_E_UNKNOWNINTERFACE;
-        if (!parameters) return E_POINTER;
+        const ComPtr<IUnknown> alive = Identity();
         return Guard(IID_NULL, [&] {
             const EventHandler handler = handler_;  // it may disconnect inside the call
-            if (handler) handler(event, *parameters);
+            DISPPARAMS none{};
+            if (handler) handler(event, parameters ? *parameters : none);
         });
     }
 
@@ -53,12 +59,14 @@ class EventConnection::Sink final : public Object<Sink, EventDispatch> {
 };
 
 EventConnection::EventConnection(IUnknown* source, REFIID events, EventHandler handler)
-    : sink_(MakeObject<Sink>(events, std::move(handler))) {
-    ComPtr<IConnectionPointContainer> container;
-    RequireSuccess(source->QueryInterface(IID_PPV_ARGS(&container)), L"The object raises no events");
-    RequireSuccess(container->FindConnectionPoint(events, &point_),
-                   L"The object does not raise these events");
-    RequireSuccess(point_->Advise(sink_->Identity(), &cookie_), L"The object takes no listener");
+    : EventConnection(PointOf(source, events), events, std::move(handler)) {}
+
+EventConnection::EventConnection(ComPtr<IConnectionPoint> point, REFIID events, EventHandler handler)
+    : point_(std::move(point)), sink_(MakeObject<Sink>(events, std::move(handler))) {
+    const HRESULT result = point_->Advise(sink_->Identity(), &cookie_);
+    if (SUCCEEDED(result)) return;
+    sink_->Disconnect();  // the object may have kept it all the same
+    Throw(result, L"The object takes no listener");
 }
 
 EventConnection::~EventConnection() {

@@ -1,4 +1,4 @@
-// Listening to the events of an object.
+// Listening to the events of another object.
 #pragma once
 
 #include "com/object.h"
@@ -13,12 +13,15 @@ namespace qz {
 /// gets them; an in/out parameter is changed through its VT_BYREF variant.
 using EventHandler = std::function<void(DISPID event, DISPPARAMS& parameters)>;
 
-/// A sink connected to one event dispinterface of an object; it is disconnected when this goes, and from then
-/// on the handler is not called any more. Not movable, for the connection may hold on to the sink.
+/// A sink connected to one event dispinterface of an object, which is disconnected when this goes. From then
+/// on the handler is not called any more, even if the object refuses and keeps the sink. The handler may end
+/// the connection inside its call; what it throws is the event's failure.
 class EventConnection {
   public:
-    /// Throws when the object does not raise these events.
+    /// Connects to an object. Throws when it does not raise these events or takes no listener.
     EventConnection(IUnknown* source, REFIID events, EventHandler handler);
+    /// Connects at a connection point for these events. Throws when it takes no listener.
+    EventConnection(ComPtr<IConnectionPoint> point, REFIID events, EventHandler handler);
     ~EventConnection();
     EventConnection(const EventConnection&) = delete;
     EventConnection& operator=(const EventConnection&) = delete;
