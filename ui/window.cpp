@@ -1,37 +1,26 @@
 #include "ui/window.h"
 
+#include "ui/window_class.h"
+
+#include <comdef.h>
+
 namespace qz {
 
 namespace {
 
-// One class for all windows of the module, made outside the module's activation context: the class is our
-// own, and the system would keep the context with every window. Its name is looked up together with the
-// module's handle, so modules do not disturb each other. A library's classes outlive it unless it takes them
-// back: a class left behind would send messages to code that is gone, and stop the library from registering
-// when it is loaded at the same place again. Therefore this static object, which goes when the module is
-// unloaded.
-class RegisteredClass {
-  public:
-    explicit RegisteredClass(WNDPROC procedure) {
+/// One class for all windows of the module. Made outside the module's activation context, which the system
+/// would keep with every window: the class is our own.
+const WindowClass& OwnClass(WNDPROC procedure) {
+    static const WindowClass own([procedure] {
         WNDCLASSEXW description{};
-        description.cbSize = sizeof description;
         description.style = CS_DBLCLKS;
         description.lpfnWndProc = procedure;
-        description.hInstance = ThisModule();
         description.hCursor = LoadCursorW(nullptr, IDC_ARROW);
         description.lpszClassName = L"qzVandraExt.Window";
-        atom_ = RegisterClassExW(&description);
-        ThrowLastErrorIf(atom_ == 0, L"The window class cannot be registered");
-    }
-    ~RegisteredClass() { UnregisterClassW(Name(), ThisModule()); }
-    RegisteredClass(const RegisteredClass&) = delete;
-    RegisteredClass& operator=(const RegisteredClass&) = delete;
-
-    const wchar_t* Name() const noexcept { return MAKEINTATOM(atom_); }
-
-  private:
-    ATOM atom_ = 0;
-};
+        return description;
+    }());
+    return own;
+}
 
 bool Refuses(UINT message) noexcept { return message == WM_NCCREATE || message == WM_CREATE; }
 
@@ -47,13 +36,12 @@ Window::~Window() {
 
 void Window::Create(const WindowOptions& options) {
     if (handle_) Throw(E_UNEXPECTED, L"The window is there already");
-    static const RegisteredClass registered(&Window::Procedure);
+    const WindowClass& own = OwnClass(&Window::Procedure);
     caller_.Capture();
     const RECT& bounds = options.bounds;
-    const HWND made =
-        CreateWindowExW(options.extendedStyle, registered.Name(), options.title.c_str(), options.style,
-                        bounds.left, bounds.top, bounds.right - bounds.left, bounds.bottom - bounds.top,
-                        options.parent, nullptr, ThisModule(), this);
+    const HWND made = CreateWindowExW(
+        options.extendedStyle, own.Name(), options.title.c_str(), options.style, bounds.left, bounds.top,
+        bounds.right - bounds.left, bounds.bottom - bounds.top, options.parent, nullptr, ThisModule(), this);
     if (made) return;
     const DWORD error = GetLastError();
     handle_ = nullptr;
@@ -67,9 +55,8 @@ void Window::Destroy() noexcept {
 void ShowErrorInDebugger() noexcept {
     ComPtr<IErrorInfo> info;
     if (GetErrorInfo(0, &info) != S_OK) return;
-    BSTR text = nullptr;
-    if (SUCCEEDED(info->GetDescription(&text)) && text) OutputDebugStringW(text);
-    SysFreeString(text);
+    _bstr_t text;
+    if (SUCCEEDED(info->GetDescription(text.GetAddress())) && text.length()) OutputDebugStringW(text);
 }
 
 LRESULT CALLBACK Window::Procedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) noexcept {

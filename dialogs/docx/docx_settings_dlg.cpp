@@ -3,7 +3,7 @@
 #include "dialogs/common/label_mnemonics.h"
 #include "dialogs/common/record_dialog.h"
 #include "dialogs/docx/docx_fields.h"
-#include "properties/editors/choose_file.h"
+#include "ui/choose_file.h"
 #include "res/strings.h"
 #include "res/text_ids.h"
 #include "ui/child_window.h"

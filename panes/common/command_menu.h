@@ -1,7 +1,7 @@
 // A context menu of a pane's commands.
 #pragma once
 
-#include "panes/common/popup_menu.h"
+#include "ui/popup_menu.h"
 #include "res/language.h"
 #include "res/strings.h"
 

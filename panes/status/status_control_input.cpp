@@ -2,7 +2,7 @@
 #include "host/attributes.h"
 #include "host/host_calls.h"
 #include "host/object_path.h"
-#include "panes/common/popup_menu.h"
+#include "ui/popup_menu.h"
 #include "panes/status/status_control.h"
 #include "panes/status/status_entry.h"
 #include "panes/status/status_painter.h"

@@ -5,6 +5,7 @@
 #include "ui/gdi.h"
 #include "ui/platform_geometry.h"
 #include "ui/window.h"
+#include "ui/window_class.h"
 
 #include <algorithm>
 #include <mutex>
@@ -15,6 +16,7 @@ namespace {
 
 std::mutex classMutex;
 unsigned classUsers = 0;
+std::optional<WindowClass> boxClass;
 
 constexpr int paletteSlot = 0;  // of a box's extra bytes
 
@@ -66,21 +68,19 @@ ColourBoxClass::ColourBoxClass() {
     const std::lock_guard lock(classMutex);
     if (classUsers == 0) {
         WNDCLASSEXW description{};
-        description.cbSize = sizeof description;
         description.style = CS_HREDRAW | CS_VREDRAW;
         description.lpfnWndProc = &ColourPalette::Procedure;
         description.cbWndExtra = sizeof(LONG_PTR);
-        description.hInstance = ThisModule();
         description.hCursor = LoadCursorW(nullptr, IDC_ARROW);
         description.lpszClassName = name;
-        ThrowLastErrorIf(!RegisterClassExW(&description), L"The color boxes cannot be registered");
+        boxClass.emplace(description);
     }
     ++classUsers;
 }
 
 ColourBoxClass::~ColourBoxClass() {
     const std::lock_guard lock(classMutex);
-    if (--classUsers == 0) UnregisterClassW(name, ThisModule());
+    if (--classUsers == 0) boxClass.reset();
 }
 
 // The palette

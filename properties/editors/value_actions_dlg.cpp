@@ -2,9 +2,9 @@
 #include "properties/editors/make_editor.h"
 
 #include "host/late_bound.h"
-#include "panes/common/popup_menu.h"
 #include "properties/editors/confirmation_pause.h"
 #include "properties/editors/listed_objects.h"
+#include "ui/popup_menu.h"
 #include "properties/model/picker_layouts.h"
 #include "res/dialog_ids.h"
 #include "res/strings.h"

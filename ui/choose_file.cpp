@@ -1,4 +1,4 @@
-#include "properties/editors/choose_file.h"
+#include "ui/choose_file.h"
 
 #include "com/error.h"
 
