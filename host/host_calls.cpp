@@ -1,6 +1,6 @@
 #include "host/host_calls.h"
 
-#include "host/bstr.h"
+#include "com/text.h"
 
 namespace qz {
 

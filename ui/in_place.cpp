@@ -1,6 +1,7 @@
 #include "ui/in_place.h"
 
 #include "com/error.h"
+#include "com/scope.h"
 #include "ui/platform_geometry.h"
 
 #include <utility>
@@ -8,19 +9,6 @@
 namespace qz {
 
 namespace {
-
-/// Sets a flag for a scope.
-class FlagScope {
-  public:
-    explicit FlagScope(bool& flag) noexcept : flag_(flag), before_(std::exchange(flag, true)) {}
-    ~FlagScope() { flag_ = before_; }
-    FlagScope(const FlagScope&) = delete;
-    FlagScope& operator=(const FlagScope&) = delete;
-
-  private:
-    bool& flag_;
-    bool before_;
-};
 
 [[noreturn]] void ThrowNotActivated(const wchar_t* text) { Throw(OLE_E_NOT_INPLACEACTIVE, text); }
 
@@ -65,7 +53,7 @@ void InPlace::Activate(const std::wstring& title) {
 
 void InPlace::Enter(const std::wstring& title) {
     if (entering_ || leaving_) Throw(E_UNEXPECTED, L"The control is just being activated or deactivated");
-    const FlagScope entering(entering_);
+    const ScopedValue entering(entering_, true);
     if (!site_) ThrowNotActivated(L"The control has no client site");
     const unsigned stage = stage_;
     ComPtr<IOleInPlaceSite> place;
@@ -121,7 +109,7 @@ void InPlace::Leave() noexcept {
     active_ = false;
     ComPtr<IOleInPlaceSite> place;
     {
-        const FlagScope leaving(leaving_);
+        const ScopedValue leaving(leaving_, true);
         TellFocus(false);  // the window loses it, if at all, when the site is to hear nothing any more
         LeaveUserInterface();
         place = std::exchange(place_, nullptr);
@@ -183,7 +171,7 @@ void InPlace::LeaveUserInterface() noexcept {
     uiActive_ = false;
     const ComPtr<IOleInPlaceSite> place = place_;
     {
-        const FlagScope leaving(leaving_);
+        const ScopedValue leaving(leaving_, true);
         Announce(nullptr, nullptr);
     }
     if (place) place->OnUIDeactivate(FALSE);
