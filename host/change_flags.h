@@ -18,9 +18,8 @@ inline constexpr std::uint32_t pages = 0x80;  // pages were added, removed or mo
 inline constexpr std::uint32_t pageSize = 0x100;
 inline constexpr std::uint32_t documentSettings = 0x200;  // document information, security, fonts, options
 inline constexpr std::uint32_t attribute = 0x400;         // an attribute of an object was written
-inline constexpr std::uint32_t picture =
-    0x1800;  // either bit: the current page looks different for another reason
-inline constexpr std::uint32_t layers = 0x4000;  // a layer was shown or hidden
+inline constexpr std::uint32_t picture = 0x1800;  // either bit: the current page looks different otherwise
+inline constexpr std::uint32_t layers = 0x4000;   // a layer was shown or hidden
 inline constexpr std::uint32_t outline = 0x8000;
 
 }  // namespace change

@@ -103,14 +103,14 @@ STDMETHODIMP PropControl::Closing(long* pAnswer) {
 
 bool PropControl::ConfirmationWanted() {
     const ComPtr<IVandraX> host = Host();
-    const unsigned stage = objectStage_;
+    const Stage::Mark shown = Contents().Now();
     if (!host || !object_ || !changes_ || changes_->Empty() || sharedChanges_) return false;
     ComPtr<IDispatch> found;
     const bool there = !path_.empty() && SUCCEEDED(host->GetObjectByPath(Bstr(path_).Get(), &found));
     _variant_t asked;
     const bool told =
         SUCCEEDED(host->GetObjectAttribute(Bstr(documentPath).Get(), Bstr(confirmAttribute).Get(), &asked));
-    if (stage != objectStage_) return false;  // these changes were forgotten meanwhile
+    if (shown.Stale()) return false;  // these changes were forgotten meanwhile
     return MustConfirm(!path_.empty(), there, true, told && IsSet(asked));
 }
 
@@ -135,24 +135,24 @@ void PropControl::FollowHost() {
 
 void PropControl::FollowChange() {
     const ComPtr<IVandraX> host = Host();
-    const unsigned stage = objectStage_;
+    const Stage::Mark shown = Contents().Now();
     const ChangeFlags changes = ChangesOf(host.Get());
-    if (stage != objectStage_) return;  // the object that was set meanwhile stays
+    if (shown.Stale()) return;  // the object that was set meanwhile stays
     if (changes.AnyOrUntold(change::selection)) return FollowSelection(host.Get());
     if (!object_) return;
     const bool there = ObjectIsThere();
-    if (stage != objectStage_) return;
+    if (shown.Stale()) return;
     if (!there) return SetObject(nullptr);
     const ValueDlgPointer editor = editor_;
     if (editor) editor->FollowHost();
 }
 
 void PropControl::FollowSelection(IVandraX* host) {
-    const unsigned stage = objectStage_;
+    const Stage::Mark shown = Contents().Now();
     const ComPtr<IDispatch> current = ObjectOf(CurrentObjectOf(host));
     if (!current && !object_) return;
     const bool inspected = current && ObjectIsThere() && IsInspected(current);
-    if (stage != objectStage_) return;  // the object that was set meanwhile stays
+    if (shown.Stale()) return;  // the object that was set meanwhile stays
     if (inspected) {
         ReopenEditor();  // others may be selected with it now
     } else {
@@ -168,13 +168,13 @@ void PropControl::ReopenEditor() {
 /// Asks the object itself, as what lies at its old path may be another one by now. False also when another
 /// object was set meanwhile.
 bool PropControl::ObjectIsThere() {
-    const unsigned stage = objectStage_;
+    const Stage::Mark shown = Contents().Now();
     const ComPtr<IDispatch> object = object_;
     const std::shared_ptr<HostMembers> members = members_;
     if (!object || !members) return false;
     std::wstring path;
     if (FAILED(Guard(IID_NULL, [&] { path = members->objects.Path(object.Get()); }))) return false;
-    if (stage != objectStage_) return false;
+    if (shown.Stale()) return false;
     path_ = std::move(path);
     return true;
 }
@@ -200,9 +200,10 @@ bool PropControl::TakeNews() {
 // ------------------------------------------------------------------------------------------------------
 
 void PropControl::SetObject(const ComPtr<IDispatch>& object) {
-    const unsigned stage = ++objectStage_;
+    ContentsReplaced();
+    const Stage::Mark shown = Contents().Now();
     CloseEditor();
-    if (stage != objectStage_) return;  // another object was set meanwhile
+    if (shown.Stale()) return;  // another object was set meanwhile
     changes_.reset();
     object_ = nullptr;
     path_.clear();
@@ -214,18 +215,18 @@ void PropControl::SetObject(const ComPtr<IDispatch>& object) {
         failure = error.code;
         reason = error.text;
     }
-    if (stage != objectStage_) return;
-    if (TakeNews() && stage == objectStage_) Events().Raise(3);
+    if (shown.Stale()) return;
+    if (TakeNews() && !shown.Stale()) Events().Raise(3);
     if (FAILED(failure)) Rethrow(failure, reason);
 }
 
 void PropControl::TakeObject(const ComPtr<IDispatch>& object) {
-    const unsigned stage = objectStage_;
+    const Stage::Mark shown = Contents().Now();
     const std::shared_ptr<HostMembers> members = members_;
     HRESULT refused = S_OK;
     std::wstring path;
     if (object && members) refused = Guard(IID_NULL, [&] { path = members->objects.Path(object.Get()); });
-    if (stage != objectStage_) return;
+    if (shown.Stale()) return;
     if (SUCCEEDED(refused)) {
         object_ = object;
         path_ = std::move(path);

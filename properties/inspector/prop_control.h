@@ -4,6 +4,7 @@
 #include "com/class_info.h"
 #include "com/dispatch.h"
 #include "panes/common/pane_control.h"
+#include "panes/common/stage.h"
 #include "properties/editors/edited_attribute.h"
 #include "properties/inspector/inspector_dialog.h"
 #include "properties/editors/value_dlg.h"
@@ -114,9 +115,7 @@ class PropControl final
     Language dialogLanguage_ = Language::English;
     int focusedPart_ = 0;  ///< The part that had the focus when the dialog was hidden; 0 for none.
     ValueDlgPointer editor_;
-    /// Counts the objects taken, and the editors opened, so that a step under way sees that it is outdated.
-    unsigned objectStage_ = 0;
-    unsigned editorStage_ = 0;
+    Stage editors_;  ///< Another one with every editor; the pane's contents are those of one object.
 };
 
 }  // namespace qz

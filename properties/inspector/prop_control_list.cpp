@@ -69,16 +69,16 @@ EditorChoice ChooseEditorOf(const EditedAttribute& edited) {
 /// Shows the object's tabs and attributes, and opens the editor of the attribute chosen last.
 void PropControl::ShowObject() {
     if (!DialogWindow()) return;
-    const unsigned stage = objectStage_;
+    const Stage::Mark shown = Contents().Now();
     ShowDialog(ShowsObject());
-    if (stage != objectStage_ || !DialogWindow()) return;  // the container was told of the focus
+    if (shown.Stale() || !DialogWindow()) return;  // the container was told of the focus
     Invalidate();
     ListRefill refill(dialog_);
     dialog_->SetDescription({});
     if (!ShowsObject()) return dialog_->RemoveTabs();
     std::vector<AttributeRow> rows;
     const HRESULT read = Guard(IID_NULL, [&] { rows = ReadRows(); });
-    if (stage != objectStage_ || !DialogWindow() || !object_) return;
+    if (shown.Stale() || !DialogWindow() || !object_) return;
     if (FAILED(read)) {
         dialog_->RemoveTabs();
         Rethrow(read, TakeErrorText(read));
@@ -132,13 +132,13 @@ void PropControl::ChooseRemembered(const std::vector<std::wstring>& names) {
 }
 
 void PropControl::OnTabChosen() {
-    const unsigned stage = objectStage_;
+    const Stage::Mark shown = Contents().Now();
     CloseEditor();
-    if (stage != objectStage_ || !DialogWindow()) return;
+    if (shown.Stale() || !DialogWindow()) return;
     ListRefill refill(dialog_);
     dialog_->SetDescription({});
     const std::vector<AttributeRow> rows = ReadRows();
-    if (stage == objectStage_ && DialogWindow()) FillList(rows, std::move(refill));
+    if (!shown.Stale() && DialogWindow()) FillList(rows, std::move(refill));
 }
 
 void PropControl::OnAttributeChosen() {
@@ -155,21 +155,21 @@ void PropControl::OnAttributeChosen() {
 // ------------------------------------------------------------------------------------------------------
 
 void PropControl::OpenEditor(long index) {
-    const unsigned stage = editorStage_;
+    const Stage::Mark before = editors_.Now();
     EditedAttribute edited{Host(), members_, object_, nullptr, {}, changes_};
     if (!edited.host || !edited.members || !edited.object) return;
     HostObjects& objects = edited.members->objects;
     edited.attribute = RequireAttribute(ItemOf(objects.Attributes(edited.object.Get()).Get(), index));
     edited.row = ReadRow(edited.members->attributes, edited.attribute.Get());
-    if (stage != editorStage_ || !DialogWindow()) return;
+    if (before.Stale() || !DialogWindow()) return;
     dialog_->SetDescription(edited.row.description);
     const EditorChoice choice = ChooseEditorOf(edited);
     const ValueDlgPointer editor = MakeEditor(choice, dialogLanguage_);
-    if (!editor || stage != editorStage_ || !DialogWindow()) return;
+    if (!editor || before.Stale() || !DialogWindow()) return;
     editor->SetInputs(std::move(edited), *this);
     const HWND focus = GetFocus();
     editor->Create(DialogWindow());
-    if (stage != editorStage_) return;  // the host closed it while it was being opened
+    if (before.Stale()) return;  // the host closed it while it was being opened
     editor_ = editor;
     ShowEditor(editor);
     if (GetFocus() != focus && focus) SetFocus(focus);
@@ -192,7 +192,7 @@ void PropControl::PlaceEditor() {
 
 /// What waits in the editor is written first. That may run anything: look again at all afterwards.
 void PropControl::CloseEditor() {
-    ++editorStage_;
+    editors_.Next();
     const ValueDlgPointer editor = std::exchange(editor_, nullptr);
     if (!editor) return;
     const HWND focus = GetFocus();
