@@ -2,6 +2,7 @@
 #pragma once
 
 #include "com/object.h"
+#include "tests/support/silent_dispatch.h"
 
 #include <comdef.h>
 
@@ -11,15 +12,13 @@
 namespace qz {
 
 /// A bookmark that answers whatever it is told to.
-class OddBookmark final : public Object<OddBookmark, IDispatch> {
+class OddBookmark final : public Object<OddBookmark, SilentDispatch> {
   public:
     _variant_t count{0L};
     _variant_t title{L"odd"};
     std::function<_variant_t(long)> item = [](long) { return _variant_t(); };
     std::function<void()> onCount = [] {};
 
-    STDMETHODIMP GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
-    STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
     STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR* names, UINT, LCID, DISPID* ids) override {
         const std::wstring name = names[0];
         *ids = name == L"Count" ? 1 : name == L"Item" ? 0 : name == L"Title" ? 2 : DISPID_UNKNOWN;

@@ -31,9 +31,7 @@ ComPtr<IHostBookmark> AddBookmark(IHostBookmark* parent, const wchar_t* title, l
 }
 
 OutlineTest::OutlineTest() {
-    ComPtr<IClassFactory> factory;
-    ThrowIfFailed(module.GetClassObject(CLSID_qzBookmarkCtrl, IID_PPV_ARGS(&factory)));
-    ThrowIfFailed(factory->CreateInstance(nullptr, IID_PPV_ARGS(&pane)));
+    module.Make(CLSID_qzBookmarkCtrl, pane);
     events->Connect(pane.Get(), DIID__IqzBookmarkCtrlEvents);
     ComPtr<IDispatch> outline;
     ThrowIfFailed(host->GetBookmarks(&outline));

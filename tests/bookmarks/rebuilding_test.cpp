@@ -33,21 +33,6 @@ TEST_F(Rebuilding, InitializeShowsTheTopLevelCollapsed) {
     EXPECT_EQ(events->TakeEvents(), Events{"2"});
 }
 
-TEST_F(Rebuilding, CallsOfARefresh) {
-    AddBookmark(root.Get(), L"Only");
-    Show();
-    ASSERT_EQ(pane->Initialize(host.Get()), S_OK);
-    host->ClearLog();
-    host->SetAutoRefresh(0);
-    EXPECT_EQ(pane->Refresh(), S_OK);
-    EXPECT_EQ(AutoRefresh(), 0) << "as it was";
-    EXPECT_EQ(CallCount(host.Get(), L"Refresh"), 0) << "the view is not drawn for it";
-    EXPECT_EQ(CallCount(host.Get(), L"SetAutoRefresh"), 1 + 2);
-    EXPECT_EQ(CallCount(host.Get(), L"GetBookmarks"), 1);
-    EXPECT_EQ(CallCount(host.Get(), L"Bookmark.Item"), 1);
-    EXPECT_EQ(CallCount(host.Get(), L"Bookmark.Count"), 2);
-}
-
 TEST_F(Rebuilding, AnEmptyOutlineRaisesOneSizeToZeroEachTime) {
     Show();
     EXPECT_EQ(pane->Initialize(host.Get()), S_OK);

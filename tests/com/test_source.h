@@ -2,6 +2,7 @@
 #pragma once
 
 #include "com/connection_points.h"
+#include "tests/support/silent_dispatch.h"
 
 #include <functional>
 
@@ -27,15 +28,12 @@ class TestSource final : public Object<TestSource, ConnectionPointContainer> {
 };
 
 /// A sink that runs a function; answers IDispatch only, as script hosts do.
-class TestSink final : public Object<TestSink, IDispatch> {
+class TestSink final : public Object<TestSink, SilentDispatch> {
   public:
     using Handler = std::function<HRESULT(DISPID, DISPPARAMS&)>;
 
     explicit TestSink(Handler handler) : handler_(std::move(handler)) {}
 
-    STDMETHODIMP GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
-    STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
-    STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
     STDMETHODIMP Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS* parameters, VARIANT*, EXCEPINFO*,
                         UINT*) override {
         return handler_(id, *parameters);

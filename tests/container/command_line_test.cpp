@@ -29,14 +29,6 @@ TEST(CommandLine, TakesOptionsInAnyOrder) {
     EXPECT_EQ(line->answer, false);
 }
 
-TEST(CommandLine, NothingIsGoodEnough) {
-    const auto line = Parse({});
-    ASSERT_TRUE(line);
-    EXPECT_TRUE(line->document.empty());
-    EXPECT_EQ(line->page, 1);
-    EXPECT_FALSE(line->answer.has_value()) << "the user is asked";
-}
-
 TEST(CommandLine, RefusesWhatItDoesNotUnderstand) {
     const std::vector<std::vector<std::wstring>> bad = {
         {L"--page"},

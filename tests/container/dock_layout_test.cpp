@@ -41,11 +41,6 @@ void ExpectTiled(const DockRequest& request, const DockLayout& layout) {
 
 }  // namespace
 
-TEST(DockLayout, NoPanesLeaveAllToTheCentre) {
-    const DockRequest request = Request({});
-    EXPECT_EQ(Arrange(request).centre, (Area{0, 0, 1000, 600}));
-}
-
 TEST(DockLayout, AFixedSideHasNoSplitter) {
     const DockSide panes[] = {Left, Bottom};
     DockRequest request = Request(panes);

@@ -30,13 +30,6 @@ ComPtr<ITypeInfo> ThumbnailEvents() {
 
 }  // namespace
 
-TEST(EventSink, HandlerMayVeto) {
-    const ComPtr<TestSource> source = MakeObject<TestSource>();
-    const EventConnection connection(source->Identity(), testEvents,
-                                     [](DISPID, DISPPARAMS& parameters) { *parameters.rgvarg[0].plVal = 0; });
-    EXPECT_EQ(Raise(*source.Get()), 0);
-}
-
 TEST(EventSink, HandlerMayDisconnectInsideTheCall) {
     const ComPtr<TestSource> source = MakeObject<TestSource>();
     std::unique_ptr<EventConnection> connection;

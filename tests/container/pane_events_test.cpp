@@ -75,12 +75,6 @@ TEST_F(PaneEvents, AQuestionThatCannotBePutKeepsThePages) {
     EXPECT_EQ(Raise(deleteSelectedPages), 0);
 }
 
-TEST_F(PaneEvents, OtherEventsAreOnlyLogged) {
-    EXPECT_EQ(Raise(thumbActivated), 1);
-    EXPECT_EQ(questions, 0);
-    EXPECT_EQ(lines, std::vector<std::wstring>{L"Pages: ThumbActivated(page: 3, Continue: 1)"});
-}
-
 // A raiser may pass something else than its description says.
 TEST_F(PaneEvents, AnEventWithoutItsParameterIsLeftAlone) {
     DISPPARAMS none{};

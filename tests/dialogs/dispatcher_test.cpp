@@ -116,24 +116,6 @@ TEST_F(DispatcherTest, OptionsAreOneByteThatIsWrittenBack) {
     EXPECT_EQ(OptionsAfterUse({REG_DWORD, {1, 0, 0, 0}}), none);
 }
 
-TEST_F(DispatcherTest, OptionsAreLeftAloneWithoutAKeyOfTheHost) {
-    EXPECT_EQ(dialogs->put_PDF(host.Get()), S_OK);
-    EXPECT_EQ(Run(qzNUpSettings, nullptr, nullptr, Cancel), S_FALSE);
-    dialogs.Reset();
-    EXPECT_EQ(Options(), std::nullopt);
-}
-
-TEST_F(DispatcherTest, DialogsAreInTheLanguageOfTheHost) {
-    EXPECT_EQ(host->put_LanguageId(0x0407), S_OK);
-    EXPECT_EQ(dialogs->put_PDF(host.Get()), S_OK);
-    wchar_t caption[100] = L"";
-    Run(qzNUpSettings, nullptr, nullptr, [&] {
-        GetWindowTextW(Window(), caption, 100);
-        Cancel();
-    });
-    EXPECT_STREQ(caption, L"Mehrfachseiten-Einstellungen");
-}
-
 TEST_F(DispatcherTest, DocumentSettingsNeedAHost) {
     EXPECT_EQ(dialogs->DoDialog(qzDocumentSettings), E_POINTER);
     EXPECT_EQ(dialogs->put_PDF(host.Get()), S_OK);

@@ -24,9 +24,7 @@ namespace qz {
 class DocumentSettingsTest : public ::testing::Test {
   protected:
     DocumentSettingsTest() {
-        ComPtr<IClassFactory> factory;
-        ThrowIfFailed(module.GetClassObject(CLSID_qzDocSettingsDlg, IID_PPV_ARGS(&factory)));
-        ThrowIfFailed(factory->CreateInstance(nullptr, IID_PPV_ARGS(&dialog)));
+        module.Make(CLSID_qzDocSettingsDlg, dialog);
         EXPECT_EQ(dialog->Initialize(host.Get()), S_OK);
         owner = CreateWindowExW(0, L"STATIC", L"owner", WS_POPUP | WS_VISIBLE, 0, 0, 500, 400, nullptr,
                                 nullptr, nullptr, nullptr);

@@ -1,5 +1,6 @@
 // The document settings: the dialog as a whole, information and security.
 #include "tests/dialogs/document_settings_fixture.h"
+#include "tests/support/sweep.h"
 #include "tests/support/dialog_fit.h"
 #include "tests/support/event_recorder.h"
 #include "tests/support/held_keys.h"
@@ -255,6 +256,7 @@ TEST_F(DocumentDialogTest, EveryCallMayFail) {
     Run([&] { EXPECT_EQ(host->get_CallCount(nullptr, &fill), S_OK); });
     ASSERT_GT(fill, 20);
     for (long call = 1; call <= fill; ++call) {
+        if (!IsSwept(call) && call < fill) continue;
         const std::vector<_variant_t> before = Everything();
         EXPECT_EQ(host->FailCall(call, E_FAIL), S_OK);
         Run([&] {
@@ -265,6 +267,7 @@ TEST_F(DocumentDialogTest, EveryCallMayFail) {
         EXPECT_EQ(Everything(), before) << "call " << call << " of the fill";
     }
     for (long call = 1; call <= 25; ++call) {
+        if (!IsSwept(call)) continue;
         Run([&] {
             EnterPassword(QZ_SECURITY_USER, L"user " + std::to_wstring(call));
             EXPECT_EQ(host->FailCall(call, E_FAIL), S_OK);

@@ -118,19 +118,6 @@ TEST_F(DocxDialogTest, OkWithoutChangesKeepsUnknownValuesAndDefaultsReplaceThem)
     EXPECT_EQ(record->GetString(L"Mine:Own"), L"stays");
 }
 
-TEST_F(DocxDialogTest, CancelChangesNothing) {
-    _variant_t out(L"mine");
-    EXPECT_EQ(Run(qzExportToDOCX, nullptr, &out,
-                  [] {
-                      Enter(Id(L"Watermark:Text"), L"x");
-                      Press(QZ_SETTINGS_DEFAULTS);
-                      Press(IDCANCEL);
-                  }),
-              S_FALSE);
-    EXPECT_EQ(out, _variant_t(L"mine"));
-    EXPECT_FALSE(RegistryKey::Open(HKEY_CURRENT_USER, SettingsPlace().key, KEY_READ));
-}
-
 TEST_F(DocxDialogTest, RefusedEntriesAreShownOnTheirPageAndNothingIsWritten) {
     struct Entry {
         const wchar_t* key;
@@ -181,19 +168,6 @@ TEST_F(DocxDialogTest, WhatAnotherCheckDecidesIsEnabledByIt) {
         EXPECT_TRUE(IsWindowEnabled(Item(Id(L"Watermark:File", QZ_DOCX_CHOOSERS))));
         Press(Id(L"Watermark:Enabled"));
         EXPECT_FALSE(enabled(L"Watermark:File")) << "though a file is used";
-        Press(IDCANCEL);
-    });
-}
-
-TEST_F(DocxDialogTest, ShowsThePageThatIsChosen) {
-    Run(qzExportToDOCX, nullptr, nullptr, [] {
-        EXPECT_TRUE(Offered(Id(L"Standard:Landscape")));
-        EXPECT_FALSE(Offered(Id(L"Merge:File")));
-        ShowPage(7);
-        EXPECT_FALSE(Offered(Id(L"Standard:Landscape")));
-        EXPECT_TRUE(Offered(Id(L"Merge:File")) && Offered(Id(L"Merge:File", QZ_DOCX_CHOOSERS)));
-        EXPECT_EQ(GetNextDlgTabItem(Window(), Item(QZ_DOCX_SECTIONS), FALSE), Item(Id(L"Merge:Enabled")));
-        EXPECT_EQ(GetNextDlgTabItem(Window(), Item(QZ_SETTINGS_DEFAULTS), TRUE), Item(Id(L"Merge:Enabled")));
         Press(IDCANCEL);
     });
 }

@@ -21,10 +21,8 @@ class Monkey : public RecordDialogTest {
 
     template <class Interface>
     ComPtr<Interface> MakeDialog(REFCLSID classId) const {
-        ComPtr<IClassFactory> factory;
         ComPtr<Interface> made;
-        ThrowIfFailed(module.GetClassObject(classId, IID_PPV_ARGS(&factory)));
-        ThrowIfFailed(factory->CreateInstance(nullptr, IID_PPV_ARGS(&made)));
+        module.Make(classId, made);
         return made;
     }
     _variant_t Owner() const { return _variant_t(HandleToLong(owner)); }

@@ -250,16 +250,5 @@ TEST_F(FontsTest, AChoiceIsWrittenAtOnce) {
     });
 }
 
-TEST_F(FontsTest, ManyOpenAtOnce) {
-    for (int i = 0; i < 300; ++i) Font((L"F" + std::to_wstring(i)).c_str(), L"Zapf", L"", 1);
-    GiveFonts();
-    EXPECT_EQ(host->AddPages(25000, 12240, 15840), S_OK);
-    EXPECT_EQ(host->ClearLog(), S_OK);
-    Run([&] {
-        EXPECT_EQ(Rows(QZ_FONTS_LIST), 300);
-        EXPECT_LT(CallCount(host.Get(), L""), 300 * 4 + 60) << "no call for each page";
-    });
-}
-
 }  // namespace
 }  // namespace qz

@@ -34,10 +34,8 @@ class RecordDialogTest : public ::testing::Test {
     }
 
     ComPtr<IqzPluginUIDialogs> Make() const {
-        ComPtr<IClassFactory> factory;
         ComPtr<IqzPluginUIDialogs> made;
-        ThrowIfFailed(module.GetClassObject(CLSID_qzPluginUIDialogs, IID_PPV_ARGS(&factory)));
-        ThrowIfFailed(factory->CreateInstance(nullptr, IID_PPV_ARGS(&made)));
+        module.Make(CLSID_qzPluginUIDialogs, made);
         return made;
     }
 

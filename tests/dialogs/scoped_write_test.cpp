@@ -2,6 +2,7 @@
 #include "dialogs/document/scoped_write.h"
 
 #include "tests/support/host_under_test.h"
+#include "tests/support/silent_dispatch.h"
 
 #include <gtest/gtest.h>
 
@@ -12,14 +13,12 @@ namespace qz {
 namespace {
 
 /// Has the one member, unless that is taken away, and writes down its calls.
-class ScopingHost final : public Object<ScopingHost, IDispatch> {
+class ScopingHost final : public Object<ScopingHost, SilentDispatch> {
   public:
     std::vector<std::wstring> calls;
     bool knowsScopes = true;
     HRESULT result = S_OK;
 
-    STDMETHODIMP GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
-    STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
     STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR* names, UINT, LCID, DISPID* ids) override {
         *ids = 7;
         return knowsScopes && std::wstring(*names) == L"SetScopedAttribute" ? S_OK : DISP_E_UNKNOWNNAME;

@@ -135,14 +135,6 @@ TEST_F(FormatCollections, RemovedOnesLiveOnByThemselves) {
     EXPECT_EQ(TextOf(format), L"mm/dd/yyyy");
 }
 
-TEST_F(FormatCollections, OutliveTheFormatter) {
-    const auto category = Category(1);
-    formatter.Reset();
-    EXPECT_EQ(category->put_CategoryID(0), S_OK);
-    EXPECT_TRUE(AddFormat(category, L"yy"));
-    EXPECT_NE(module.CanUnloadNow(), S_OK);
-}
-
 TEST_F(FormatCollections, StandAloneWhenMadeAlone) {
     const auto category = Make<IqzCategory>(CLSID_qzCategory);
     const auto format = Make<IqzFormat>(CLSID_qzFormat);

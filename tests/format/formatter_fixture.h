@@ -30,10 +30,8 @@ class FormatterTest : public testing::Test {
 
     template <class I>
     ComPtr<I> Make(REFCLSID classId) const {
-        ComPtr<IClassFactory> factory;
         ComPtr<I> object;
-        ThrowIfFailed(module.GetClassObject(classId, IID_PPV_ARGS(&factory)));
-        ThrowIfFailed(factory->CreateInstance(nullptr, IID_PPV_ARGS(&object)));
+        module.Make(classId, object);
         return object;
     }
 

@@ -11,14 +11,6 @@ struct Tracker : testing::Test {
     ViewState view{1, 100, 1};
 };
 
-TEST_F(Tracker, TellsEachChangeOnce) {
-    EXPECT_EQ(changes.Take(view), change::none);
-    changes.Note(change::outline);
-    view.currentPage = 2;
-    EXPECT_EQ(changes.Take(view), change::outline | change::currentPage);
-    EXPECT_EQ(changes.Take(view), change::none);
-}
-
 TEST_F(Tracker, CollectsWhileRefreshIsOffAndForgetsWhatCameBack) {
     changes.SetAutoRefresh(false);
     view.currentPage = 5;
@@ -28,11 +20,6 @@ TEST_F(Tracker, CollectsWhileRefreshIsOffAndForgetsWhatCameBack) {
     view.currentPage = 1;
     changes.SetAutoRefresh(true);
     EXPECT_EQ(changes.Take(view), change::pages);
-}
-
-TEST_F(Tracker, ZoomAloneIsTheBitThatThumbnailsIgnore) {
-    view.zoom = 200;
-    EXPECT_EQ(changes.Take(view), 0x40u);
 }
 
 TEST_F(Tracker, PageChangesWaitForTheEndOfPageOperations) {

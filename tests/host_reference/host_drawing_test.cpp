@@ -43,16 +43,6 @@ TEST_F(HostDrawing, APageTakesItsSizeAtTheScale) {
     EXPECT_EQ(canvas.At(50, 110), untouched);
 }
 
-TEST_F(HostDrawing, TheCallersFrameIsLeftAlone) {
-    const Canvas canvas(100, 130);
-    ASSERT_EQ(host->DrawCurrentPage(canvas.Handle(), 1, 14), S_OK);
-    EXPECT_EQ(canvas.At(0, 50), untouched);
-    EXPECT_EQ(canvas.At(84, 50), untouched);
-    EXPECT_EQ(canvas.At(50, 0), untouched);
-    EXPECT_EQ(canvas.At(1, 1), Swapped(SheetColour(1)));
-    EXPECT_EQ(canvas.At(83, 108), 0xFFFFFFu);
-}
-
 TEST_F(HostDrawing, OriginAndClippingAreHonoured) {
     const Canvas canvas(300, 300);
     SetViewportOrgEx(canvas.dc.Get(), 100, 100, nullptr);

@@ -29,36 +29,6 @@ TEST_F(HostEvents, WhatAPaneWritesWhileItReadsIsNoChange) {
     EXPECT_EQ(Told(), Flags{});
 }
 
-TEST_F(HostEvents, AutoRefreshCollectsThem) {
-    host->SetAutoRefresh(0);
-    host->SetCurrentPage(4);
-    host->MovePages(5, 1, 5);
-    host->SetCurrentPage(1);
-    host->SetAutoRefresh(1);
-    EXPECT_EQ(Told(), Flags{});
-
-    host->SetAutoRefresh(0);
-    host->SetCurrentPage(2);
-    host->MovePages(5, 1, 1);
-    EXPECT_EQ(Told(), Flags{});
-    host->SetAutoRefresh(1);
-    EXPECT_EQ(Told(), Flags{0x80 | 0x20});
-}
-
-TEST_F(HostEvents, UpdateViewTellsWhatItIsAsked) {
-    host->UpdateView(1024, 1);
-    host->UpdateView(128, 1);
-    host->UpdateView(0, 0);
-    EXPECT_EQ(Told(), (Flags{0x400, 0x80}));
-}
-
-TEST_F(HostEvents, AnyFlagsCanBeRaisedForTests) {
-    host->SetAutoRefresh(0);
-    host->RaiseChange(0);
-    host->RaiseChange(0x4000);
-    EXPECT_EQ(Told(), (Flags{0, 0x4000}));
-}
-
 TEST_F(HostEvents, ChangesWithinAnEventAreToldWithinIt) {
     const ComPtr<EventSink> second = MakeObject<EventSink>(host.Get());
     Advise(second.Get());
@@ -90,20 +60,6 @@ TEST_F(HostEvents, ASinkMayLeaveOrReleaseTheHostInside) {
     IHostObject* const borrowed = document.Get();
     EXPECT_EQ(borrowed->put_Attribute(_bstr_t(L"Title"), _variant_t(L"last words")), S_OK);
     EXPECT_EQ(host, nullptr);
-}
-
-TEST_F(HostEvents, HiddenInterfacesAreDenied) {
-    ComPtr<IVandraX> dual;
-    ComPtr<IConnectionPointContainer> container;
-    ComPtr<IConnectionPoint> point;
-    host->put_HiddenInterfaces(1);
-    EXPECT_EQ(host.As(&dual), E_NOINTERFACE);
-    host->put_HiddenInterfaces(2);
-    EXPECT_EQ(host.As(&dual), S_OK);
-    EXPECT_EQ(host.As(&container), E_NOINTERFACE);
-    host->put_HiddenInterfaces(4);
-    EXPECT_EQ(host.As(&container), S_OK);
-    EXPECT_EQ(container->FindConnectionPoint(DIID__IVandraXEvents, &point), CONNECT_E_NOCONNECTION);
 }
 
 }  // namespace

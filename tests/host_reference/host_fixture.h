@@ -2,6 +2,7 @@
 #pragma once
 
 #include "sample/host/reference_host.h"
+#include "tests/support/silent_dispatch.h"
 
 #include <comdef.h>
 #include <gtest/gtest.h>
@@ -12,16 +13,13 @@
 namespace qz::sample {
 
 /// Notes the change flags at every event.
-class EventSink : public Object<EventSink, Chain<IDispatch>> {
+class EventSink : public Object<EventSink, SilentDispatch> {
   public:
     explicit EventSink(IReferenceHost* host) : host_(host) {}
 
     std::vector<long> flags;
     std::function<void()> whenTold;
 
-    STDMETHODIMP GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
-    STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
-    STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
     STDMETHODIMP Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS* parameters, VARIANT*, EXCEPINFO*,
                         UINT*) override {
         if (id != 5 || parameters->cArgs != 0) return DISP_E_MEMBERNOTFOUND;

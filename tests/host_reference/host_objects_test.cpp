@@ -68,24 +68,6 @@ TEST_F(HostObjects, AttributesAreListedAndAnswerTheirInterface) {
     EXPECT_EQ(items->Skip(1), S_FALSE);
 }
 
-TEST_F(HostObjects, ChoicesAreLabelsThatBeginWithNumbers) {
-    const ComPtr<IDispatch> field = Make(6, L"Total");
-    const _variant_t attributes = Get(field.Get(), L"Attributes");
-    const long count = Get(attributes.pdispVal, L"Count");
-    int found = 0;
-    for (long i = 0; i < count; ++i) {
-        const _variant_t attribute = Get(attributes.pdispVal, L"Item", {i});
-        const long type = Get(attribute.pdispVal, L"Type");
-        const _variant_t choices = Get(attribute.pdispVal, L"Choices");
-        EXPECT_EQ(choices.vt == (VT_ARRAY | VT_BSTR), type == 512 || type == 8197);
-        if (choices.vt == VT_EMPTY) continue;
-        ++found;
-        const SafeArrayView<BSTR> labels(choices.parray);
-        for (const BSTR label : labels.Elements()) EXPECT_TRUE(iswdigit(*label)) << label;
-    }
-    EXPECT_EQ(found, 3);
-}
-
 TEST_F(HostObjects, ListsOfObjectsTravelBothWays) {
     const ComPtr<IDispatch> field = Make(6, L"Total");
     const ComPtr<IDispatch> action = Make(53, L"submit");
@@ -99,18 +81,6 @@ TEST_F(HostObjects, ListsOfObjectsTravelBothWays) {
     EXPECT_STREQ(_bstr_t(Get(view.Elements()[0], L"Path")), L"Objects[Total]");
     EXPECT_EQ(Read(L"Pages[1]", L"Objects").vt, VT_ARRAY | VT_DISPATCH);
     EXPECT_EQ(Read(L"Document", L"LayerConfigs").parray->rgsabound[0].cElements, 0u);
-}
-
-TEST_F(HostObjects, RedrawIsTheObjectsOwnState) {
-    const ComPtr<IHostObject> page = ObjectAt(L"Pages[2]");
-    long flag = -1;
-    page->get_Redraw(&flag);
-    EXPECT_EQ(flag, 0);
-    page->put_Redraw(1);
-    ObjectAt(L"Pages[2]")->get_Redraw(&flag);
-    EXPECT_EQ(flag, 1);
-    EXPECT_EQ(page->Refresh(), S_OK);
-    EXPECT_EQ(page->Update(1), S_OK);
 }
 
 TEST_F(HostObjects, OfAClosedDocumentAreGone) {
@@ -159,48 +129,6 @@ TEST_F(HostObjects, BookmarksAreEditedAndFollowed) {
     long count = -1;
     EXPECT_EQ(bookmark->get_Count(&count), HRESULT_FROM_WIN32(ERROR_NOT_FOUND));
     EXPECT_EQ(static_cast<long>(Get(root.Get(), L"Count")), 0);
-}
-
-TEST_F(HostObjects, LayersAreAddedInOrderAndSwitched) {
-    host->AddLayer(_bstr_t(L"Water"), _bstr_t(L"Water (blue)"), 1);
-    host->AddLayer(_bstr_t(L"Roads"), _bstr_t(L"Roads"), 0);
-    Told();
-    EXPECT_STREQ(_bstr_t(Read(L"LayerConfigs[1]", L"ConfigOrder")), L"(Water)(Roads)");
-    EXPECT_STREQ(_bstr_t(Read(L"Layers[Roads]", L"CurrentViewState")), L"OFF");
-    EXPECT_EQ(Write(L"Layers[Roads]", L"CurrentViewState", L"ON"), S_OK);
-    EXPECT_EQ(Write(L"Layers[Roads]", L"CurrentViewState", L"ON"), S_OK);
-    EXPECT_EQ(Told(), Flags{0x4000});
-}
-
-TEST_F(HostObjects, TheSelectionIsToldAndGiven) {
-    Make(6, L"a");
-    Make(21, L"b");
-    Told();
-    EXPECT_EQ(host->SelectObjects(1), S_OK);
-    EXPECT_EQ(Told(), Flags{0x2});
-    long count = 0;
-    host->GetSelectionCount(&count);
-    EXPECT_EQ(count, 2);
-    EXPECT_EQ(host->SetSelectionAttribute(_bstr_t(L"BorderColor"), _variant_t(255L), 1), S_OK);
-    EXPECT_EQ(Read(L"Objects[a]", L"BorderColor").lVal, 255);
-    host->SelectObject(_bstr_t(L"Objects[b]"), 0);
-    _variant_t object;
-    host->GetCurrentObject(&object);
-    ASSERT_EQ(object.vt, VT_DISPATCH);
-    EXPECT_STREQ(_bstr_t(Get(object.pdispVal, L"Name")), L"b");
-    host->SelectObjects(0);
-    host->GetCurrentObject(&object);
-    EXPECT_EQ(object.vt, VT_EMPTY);
-}
-
-TEST_F(HostObjects, EncryptionSetsTheReadOnlyAttributes) {
-    EXPECT_EQ(Write(L"Document", L"Security", 128L), E_ACCESSDENIED);
-    Get(host.Get(), L"Encrypt128", {L"owner", L"user", 12L});
-    EXPECT_EQ(lastResult, S_OK);
-    EXPECT_EQ(Read(L"Document", L"Security").iVal, 128);
-    EXPECT_EQ(Read(L"Document", L"Permissions").lVal, 12);
-    Get(host.Get(), L"Encrypt", {L"", L"", 0L});
-    EXPECT_EQ(Read(L"Document", L"Security").iVal, 0);
 }
 
 }  // namespace

@@ -29,17 +29,6 @@ struct HostStreams : HostTest {
     }
 };
 
-TEST_F(HostStreams, PagesOfASequenceAreAppended) {
-    Write(L"Document", L"PageSequence", L"4; 2");
-    const ComPtr<IStream> stream = Saved(ObjectAt(L"Document").Get());
-    Write(L"Document", L"PageSequence", _variant_t());
-    EXPECT_EQ(host->InsertPagesFromStream(stream.Get()), S_OK);
-    EXPECT_EQ(PageCount(), 7);
-    EXPECT_EQ(WidthOf(6), 4000);
-    EXPECT_EQ(WidthOf(7), 2000);
-    EXPECT_EQ(Told(), Flags{0x80});
-}
-
 TEST_F(HostStreams, ADocumentObjectIsLoadedAndInserted) {
     ComPtr<IDispatch> document;
     ComPtr<IPersistStreamInit> streams;
@@ -81,21 +70,6 @@ TEST_F(HostStreams, DirtIsToldAndTheSizeIsExact) {
     EXPECT_EQ(streams->IsDirty(), S_FALSE);
     EXPECT_EQ(streams->InitNew(), S_OK);
     EXPECT_EQ(PageCount(), 0);
-}
-
-TEST_F(HostStreams, WhatIsNoDocumentIsRefusedAndNothingLost) {
-    const ComPtr<IStream> stream = MakeMemoryStream();
-    const std::vector<std::byte> noise(1000, std::byte{'x'});
-    WriteBytes(stream.Get(), noise);
-    Rewind(stream.Get());
-    ComPtr<IPersistStreamInit> streams;
-    host.As(&streams);
-    EXPECT_EQ(streams->Load(stream.Get()), HRESULT_FROM_WIN32(ERROR_INVALID_DATA));
-    EXPECT_EQ(streams->Load(nullptr), E_POINTER);
-    EXPECT_EQ(PageCount(), 5);
-    EXPECT_EQ(Told(), Flags{});
-    ComPtr<IPersistStreamInit> ofPage;
-    EXPECT_EQ(ObjectAt(L"Pages[1]").As(&ofPage), E_NOINTERFACE);
 }
 
 }  // namespace

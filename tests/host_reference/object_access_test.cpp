@@ -84,21 +84,6 @@ TEST_F(ObjectAccess, ObjectsAreFoundByNameAfterRenaming) {
     EXPECT_FALSE(Resolve(document, *ParseObjectPath(L"Objects[total]")));
 }
 
-TEST_F(ObjectAccess, EveryTypeCodeOfTheContractHasAnAttribute) {
-    std::set<uint32_t> types;
-    for (const int32_t type :
-         {object_type::text, object_type::field, object_type::picture, object_type::actionForm}) {
-        const ObjectId id = document.objects.Create(type, L"", document.pages.At(1).id).id;
-        for (const auto& described : DescribeAttributes(document, {ObjectKey::Kind::Object, id})) {
-            types.insert(described->type);
-        }
-    }
-    for (const uint32_t type :
-         {2, 3, 4, 11, 14, 15, 512, 513, 514, 515, 8194, 8195, 8196, 8197, 8198, 8199, 8201, 8711}) {
-        EXPECT_TRUE(types.contains(type)) << type;
-    }
-}
-
 TEST_F(ObjectAccess, SettingsMayBringNewAttributes) {
     EXPECT_EQ(ApplySetting(document, settings, L"PagesInCache", 7), change::documentSettings);
     EXPECT_EQ(ReadAttribute(document, settings, L"PagesInCache"), Value(int32_t(7)));

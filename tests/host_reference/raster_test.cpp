@@ -23,14 +23,6 @@ TEST(Scaling, AveragesWhatAPixelCovers) {
     for (const uint32_t pixel : grey.pixels) EXPECT_NEAR(static_cast<int>(pixel & 0xFF), 128, 1);
 }
 
-TEST(Scaling, KeepsPlainColoursExactlyAtAnyFactor) {
-    const Raster plain{13, 7, std::vector<uint32_t>(13 * 7, 0xFF123456)};
-    for (const int width : {1, 2, 5, 13, 14, 100}) {
-        for (const uint32_t pixel : ScalePart(plain, width, 9, {0, 0, width, 9}).pixels)
-            EXPECT_EQ(pixel, 0xFF123456u);
-    }
-}
-
 TEST(Scaling, OfOneToOneChangesNothingAndPartsFitTogether) {
     const Raster source = Checked(20, 10);
     EXPECT_EQ(ScalePart(source, 20, 10, {0, 0, 20, 10}).pixels, source.pixels);

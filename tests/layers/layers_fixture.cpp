@@ -6,11 +6,7 @@
 
 namespace qz {
 
-LayersTest::LayersTest() {
-    ComPtr<IClassFactory> factory;
-    ThrowIfFailed(module.GetClassObject(CLSID_qzLayersCtrl, IID_PPV_ARGS(&factory)));
-    ThrowIfFailed(factory->CreateInstance(nullptr, IID_PPV_ARGS(&pane)));
-}
+LayersTest::LayersTest() { module.Make(CLSID_qzLayersCtrl, pane); }
 
 LayersTest::~LayersTest() {
     events->Disconnect();

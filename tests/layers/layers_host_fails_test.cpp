@@ -1,7 +1,7 @@
 // A host that fails at any one call: for every call of a step there is a run in which just that call fails.
 #include "layers_fixture.h"
 
-#include "tests/support/interrupted_host.h"
+#include "tests/support/sweep.h"
 
 #include <functional>
 
@@ -12,33 +12,16 @@ class LayersHostFails : public LayersTest {
   protected:
     void SetUp() override { Configure(L"ABcD", L"(A)[(B)(c)](D)(Heading)", L"[(c)(D)]", L"(A)", L"(c)"); }
 
-    /// Runs `step` with its first call failing, then its second, ... until one run meets no fault. After each
-    /// the host refreshes again and the pane shows what the host has.
     void Sweep(const std::function<HRESULT()>& step, int fewest) {
-        for (int number = 1; number < 300; ++number) {
-            host->ClearLog();
-            host->FailCall(number, planned);
-            SetErrorInfo(0, nullptr);
-            const HRESULT result = step();
-            const bool reached = CallCount(host.Get(), L"") >= number;
-            if (FAILED(result)) {
-                EXPECT_EQ(result, planned);
-                EXPECT_NE(TakeErrorText(), L"");
-            }
-            host->ClearFaults();
+        const auto check = [this](long call, HRESULT) {
             PumpMessages();
             long refresh = 0;
             host->GetAutoRefresh(&refresh);
-            EXPECT_EQ(refresh, 1) << "failing call " << number;
-            CheckShown(number);
-            if (!reached) {
-                EXPECT_GT(number, fewest) << "the step made hardly any call";
-                return;
-            }
-        }
-        ADD_FAILURE() << "the step never ended";
+            EXPECT_EQ(refresh, 1);
+            CheckShown(static_cast<int>(call));
+        };
+        EXPECT_GE(FailEachCall(host.Get(), {.step = step, .check = check}), fewest);
     }
-
     /// Every mark in the tree is the host's state.
     void CheckShown(int number) {
         const std::wstring items = Items();
@@ -92,13 +75,12 @@ TEST_F(LayersHostFails, Toggling) {
 TEST_F(LayersHostFails, FollowingAChange) {
     Open();
     pane->put_ListLayers(qzLayersCtrlListLayers_ForCurrentPage);
-    for (int number = 1; number < 40; ++number) {
-        host->FailCall(number, planned);
-        host->RaiseChange(0xFFFF);
-        host->ClearFaults();
-        host->RaiseChange(0xFFFF);
-        EXPECT_EQ(Items(), L"+A[+B -c] +D") << "failing call " << number;
-    }
+    FailEachCall(host.Get(), {.step = [this] { return host->RaiseChange(0xFFFF), S_OK; },
+                              .check =
+                                  [this](long, HRESULT) {
+                                      host->RaiseChange(0xFFFF);
+                                      EXPECT_EQ(Items(), L"+A[+B -c] +D");
+                                  }});
 }
 
 TEST_F(LayersHostFails, AnotherHostIsAttachedInsideAnyOneCall) {

@@ -1,6 +1,7 @@
 // What the user does with the pane, and the events that he causes.
 #include "layers_fixture.h"
 #include "tests/support/during_modal.h"
+#include "tests/support/menu_answer.h"
 
 namespace qz {
 namespace {
@@ -47,15 +48,6 @@ TEST_F(LayersUsing, ExpandMarkAndDoubleClick) {
     Click(L"Heading", Part::Text, WM_LBUTTONDBLCLK);
     EXPECT_TRUE(Expanded(L"Heading"));
     EXPECT_EQ(TakeWrites(), L"");
-}
-
-TEST_F(LayersUsing, RadioGroupKeepsOne) {
-    Configure(L"Abc", L"(A)(b)[(c)]", L"[(A)(b)]");
-    Open();
-    Click(L"b", Part::Check);
-    EXPECT_EQ(HostStates(), L"-A+b-c");
-    Click(L"A", Part::Check);
-    EXPECT_EQ(HostStates(), L"+A-b-c");
 }
 
 TEST_F(LayersUsing, KeysMoveExpandAndToggle) {
@@ -161,59 +153,33 @@ TEST_F(LayersUsing, PropertiesOpenADialogOnTheLayer) {
     EXPECT_STREQ(caption, L"Properties for: A");
 }
 
-// Asking for the menu and choosing from it.
 class LayersMenu : public LayersTest {
   protected:
-    /// The entries, greyed ones with "~"; chooses one of them by its place, none with -1.
-    std::wstring Ask(const std::wstring& text, int entry = -1) {
-        seen_.clear();
-        entry_ = entry;
-        const UINT_PTR timer = SetTimer(nullptr, 0, 30, &OnTimer);
+    /// What the menu on an item offers, by key (without a text) on the selected one; runs one of its entries.
+    std::wstring Ask(const std::wstring& text, int entry = 0) const {
+        const MenuAnswer answer(entry);
         if (text.empty()) {
             SendMessageW(Tree(), WM_CONTEXTMENU, reinterpret_cast<WPARAM>(Tree()), -1);
         } else {
             Click(text, Part::Text, WM_RBUTTONDOWN);
         }
-        KillTimer(nullptr, timer);
-        return seen_;
+        return answer.Offered();
     }
-
-  private:
-    static void CALLBACK OnTimer(HWND, UINT, UINT_PTR timer, DWORD) {
-        const HWND window = FindWindowW(L"#32768", nullptr);
-        if (!window || !IsWindowVisible(window)) return;
-        const HMENU menu = reinterpret_cast<HMENU>(SendMessageW(window, 0x01E1 /* MN_GETHMENU */, 0, 0));
-        if (!IsMenu(menu)) return;
-        KillTimer(nullptr, timer);
-        for (int i = 0; i < GetMenuItemCount(menu); ++i) {
-            wchar_t text[64] = {};
-            GetMenuStringW(menu, static_cast<UINT>(i), text, 64, MF_BYPOSITION);
-            if (!*text) continue;
-            if (!seen_.empty()) seen_ += L'|';
-            if (GetMenuState(menu, static_cast<UINT>(i), MF_BYPOSITION) & MF_GRAYED) seen_ += L'~';
-            seen_ += text;
-        }
-        for (int i = 0; i <= entry_; ++i) PostMessageW(window, WM_KEYDOWN, VK_DOWN, 0);
-        PostMessageW(window, WM_KEYDOWN, entry_ >= 0 ? VK_RETURN : VK_ESCAPE, 0);
-    }
-
-    static inline std::wstring seen_;
-    static inline int entry_ = -1;
 };
 
 TEST_F(LayersMenu, EntriesRunTheirCommands) {
     Configure(L"ABcD", L"(A)[(B)](c)(D)");
     Open();
-    EXPECT_EQ(Ask(L"D", 0),
+    EXPECT_EQ(Ask(L"D", 1),
               L"Show Only This Layer|Show All Layers|Hide All Layers|Reset to Initial "
-              L"Visibility|Properties...");
+              L"Visibility|Properties...|");
     EXPECT_EQ(Selected(), Item(L"D"));
     EXPECT_EQ(TakeWrites(), L"( -A -B )");
-    Ask(L"c", 1);
+    Ask(L"c", 2);
     EXPECT_EQ(HostStates(), L"+A+B+c+D");
-    Ask(L"A", 2);
+    Ask(L"A", 3);
     EXPECT_EQ(HostStates(), L"-A-B-c-D");
-    Ask(L"c", 3);
+    Ask(L"c", 4);
     EXPECT_EQ(HostStates(), L"+A+B-c+D");
 }
 
@@ -233,9 +199,9 @@ TEST_F(LayersMenu, GreyedWhereTheContainerRefusedTheSelection) {
     Open();
     Click(L"A", Part::Text);
     events->answers[1] = 0;
-    const std::wstring menu = Ask(L"B", 0);
+    const std::wstring menu = Ask(L"B", 1);
     EXPECT_TRUE(menu.starts_with(L"~Show Only This Layer|Show All Layers|")) << testing::PrintToString(menu);
-    EXPECT_TRUE(menu.ends_with(L"|~Properties...")) << testing::PrintToString(menu);
+    EXPECT_TRUE(menu.ends_with(L"|~Properties...|")) << testing::PrintToString(menu);
     EXPECT_EQ(HostStates(), L"+A+B");
     EXPECT_EQ(Selected(), Item(L"A"));
     EXPECT_TRUE(Ask(L"A").starts_with(L"Show Only This Layer|")) << "on the selected one";
@@ -258,9 +224,7 @@ TEST_F(LayersMenu, EventComesFirst) {
 TEST_F(LayersUsing, ListenersMayEndThePane) {
     for (const bool ends : {true, false}) {
         for (const DISPID event : {1, 2, 3, 4}) {
-            ComPtr<IClassFactory> factory;
-            module.GetClassObject(CLSID_qzLayersCtrl, IID_PPV_ARGS(&factory));
-            factory->CreateInstance(nullptr, IID_PPV_ARGS(pane.ReleaseAndGetAddressOf()));
+            module.Make(CLSID_qzLayersCtrl, pane);
             host = MakeHost(1);
             Configure(L"aB", L"(a)[(B)](a)");
             HostState(L"B", L"OFF");

@@ -1,8 +1,9 @@
 // The built module, loaded the way a client without COM would, and its entry points.
 #pragma once
 
+#include "com/object.h"
+
 #include <windows.h>
-#include <unknwn.h>
 
 #include <string>
 
@@ -18,6 +19,13 @@ class LoadedModule {
     HRESULT GetClassObject(REFCLSID classId, REFIID iid, void** object) const {
         return Entry<HRESULT(STDAPICALLTYPE*)(REFCLSID, REFIID, void**)>("DllGetClassObject")(classId, iid,
                                                                                               object);
+    }
+    /// A new object of a class, into `made`.
+    template <class I>
+    void Make(REFCLSID classId, ComPtr<I>& made) const {
+        ComPtr<IClassFactory> factory;
+        ThrowIfFailed(GetClassObject(classId, IID_PPV_ARGS(&factory)));
+        ThrowIfFailed(factory->CreateInstance(nullptr, IID_PPV_ARGS(made.ReleaseAndGetAddressOf())));
     }
     HRESULT CanUnloadNow() const { return Plain("DllCanUnloadNow"); }
     HRESULT RegisterServer() const { return Plain("DllRegisterServer"); }

@@ -22,32 +22,6 @@ std::wstring DefaultOf(const RegistrationScript& script, const std::wstring& key
     return L"(none)";
 }
 
-TEST(RegistrationScript, OfAControlIsComplete) {
-    const std::wstring id = L"{560395C7-50BB-4B91-971B-B7432D935AA6}";
-    const std::wstring classKey = L"CLSID\\" + id;
-    const RegistrationScript expected = {
-        {L"QzVandraExt.qzThumbnailCtrl.1", L"", L"qzThumbnailCtrl Class"},
-        {L"QzVandraExt.qzThumbnailCtrl.1\\CLSID", L"", id},
-        {L"QzVandraExt.qzThumbnailCtrl", L"", L"qzThumbnailCtrl Class"},
-        {L"QzVandraExt.qzThumbnailCtrl\\CLSID", L"", id},
-        {L"QzVandraExt.qzThumbnailCtrl\\CurVer", L"", L"QzVandraExt.qzThumbnailCtrl.1"},
-        {classKey, L"", L"qzThumbnailCtrl Class", true},
-        {classKey + L"\\ProgID", L"", L"QzVandraExt.qzThumbnailCtrl.1"},
-        {classKey + L"\\VersionIndependentProgID", L"", L"QzVandraExt.qzThumbnailCtrl"},
-        {classKey + L"\\Programmable", L"", std::nullopt},
-        {classKey + L"\\InprocServer32", L"", L"C:\\m.dll"},
-        {classKey + L"\\InprocServer32", L"ThreadingModel", L"Apartment"},
-        {classKey + L"\\Control", L"", std::nullopt},
-        {classKey + L"\\Insertable", L"", std::nullopt},
-        {classKey + L"\\ToolboxBitmap32", L"", L"C:\\m.dll, 101"},
-        {classKey + L"\\MiscStatus", L"", L"0"},
-        {classKey + L"\\MiscStatus\\1", L"", L"131473"},
-        {classKey + L"\\TypeLib", L"", L"{1D2EC6D1-E2F3-455F-83E7-9AE07050D20D}"},
-        {classKey + L"\\Version", L"", L"6.5"},
-    };
-    EXPECT_EQ(Expanded(L"qzThumbnailCtrl"), expected);
-}
-
 // What is written for each class: the keys and values that containers are known to look up.
 struct Row {
     const wchar_t* name;
@@ -82,35 +56,8 @@ const Row scriptRows[] = {
      L"QzVandraExt.qzFormat.1", L"QzVandraExt.qzFormat", L"Both", false},
 };
 
-TEST(RegistrationScript, KeepsEachClassesOwnTexts) {
-    for (const Row& row : scriptRows) {
-        SCOPED_TRACE(testing::Message() << row.name);
-        const RegistrationScript script = Expanded(row.name);
-        const std::wstring classKey = L"CLSID\\" + std::wstring(row.classId);
-        EXPECT_EQ(DefaultOf(script, row.key + std::wstring(L"\\CLSID")), row.classId);
-        EXPECT_EQ(DefaultOf(script, row.key + std::wstring(L"\\CurVer")), row.currentVersion);
-        EXPECT_EQ(DefaultOf(script, row.currentVersion), row.name + std::wstring(L" Class"));
-        EXPECT_EQ(DefaultOf(script, row.currentVersion + std::wstring(L"\\CLSID")), row.classId);
-        EXPECT_EQ(DefaultOf(script, classKey + L"\\ProgID"), row.currentVersion);
-        EXPECT_EQ(DefaultOf(script, classKey + L"\\VersionIndependentProgID"), row.versionIndependent);
-        EXPECT_EQ(DefaultOf(script, classKey + L"\\Control") == L"(flag)", row.control);
-        EXPECT_EQ(script.size(), row.control ? 18u : 13u);
-        const ScriptEntry threading = {classKey + L"\\InprocServer32", L"ThreadingModel", row.threading};
-        EXPECT_EQ(std::ranges::count(script, threading), 1);
-    }
-}
-
 TEST(RegistrationScript, NamesAKeyForTheInspectorThatNothingWrites) {
     EXPECT_EQ(DefaultOf(Expanded(L"qzPropCtrl"), L"qzVandraExt.qzPropCtrl"), L"(none)");
-}
-
-TEST(RegistrationScript, OfTheDispatcherHasOneProgIdWithoutVersion) {
-    const RegistrationScript script = Expanded(L"qzPluginUIDialogs");
-    const std::wstring id = L"{4F765042-5F64-4EE2-AD5C-EDC18E69F8C2}";
-    EXPECT_EQ(DefaultOf(script, L"QzVandraExt.qzPluginUIDialogs\\CLSID"), id);
-    EXPECT_EQ(DefaultOf(script, L"QzVandraExt.qzPluginUIDialogs\\CurVer"), L"(none)");
-    EXPECT_EQ(DefaultOf(script, L"CLSID\\" + id + L"\\ProgID"), L"QzVandraExt.qzPluginUIDialogs");
-    EXPECT_EQ(script.size(), 10u);
 }
 
 TEST(RegistrationScript, IsWithoutOpenPlaces) {

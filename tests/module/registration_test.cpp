@@ -2,6 +2,7 @@
 #include "tests/module/loaded_module.h"
 #include "tests/module/registry_listing.h"
 
+#include <comdef.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -45,36 +46,40 @@ const Class classes[] = {
 };
 
 struct Interface {
-    const wchar_t* name;
-    const wchar_t* id;
+    std::wstring name, id;
     bool events = false;
 };
 
-constexpr Interface interfaces[] = {
-    {L"IqzBookmarkCtrl", L"{75B3F4F2-B723-4155-9A61-DEE56BD35A48}"},
-    {L"_IqzBookmarkCtrlEvents", L"{5B98AF27-DD15-495D-B160-94D9F6646B73}", true},
-    {L"IqzLayersCtrl", L"{9486FBB3-49A4-49FF-8FA2-6ED90470AF3F}"},
-    {L"_IqzLayersCtrlEvents", L"{A7FE7B18-BB5A-45C4-A7FF-88C65D0AF92E}", true},
-    {L"IqzThumbnailCtrl", L"{4812D34E-A648-49AD-AF03-3AE9D619DE55}"},
-    {L"_IqzThumbnailCtrlEvents", L"{9C2031C0-2DC7-4C33-8EA2-219F2EF8C372}", true},
-    {L"IqzStatusCtrl", L"{F476C5C1-298F-44D5-9534-645E4755D1CD}"},
-    {L"IqzPropCtrl", L"{9A028D8F-D222-44EB-9E41-80ABE5F95078}"},
-    {L"_IqzPropCtrlEvents", L"{308DB383-226E-4247-B084-D3E79596284D}", true},
-    {L"IqzPropertiesDlg", L"{45DEC1EC-A5AC-4EA1-B5D9-217CFC3F08B4}"},
-    {L"IqzGridUnitsDlg", L"{1D710EFC-1C7E-4FA5-A1BE-7FC1CA79D0D5}"},
-    {L"IqzDocSettingsDlg", L"{F3107D70-565A-486C-8D6C-EAB924F5AD78}"},
-    {L"IqzPluginUIDialogs", L"{5D6832C9-5AA7-4CE0-AB07-D85518FBFCE9}"},
-    {L"IqzApplicationPreferences", L"{2C7090E2-E66B-46FF-AE0A-0550C47FDB3B}"},
-    {L"IqzFormatter", L"{312B8A37-C824-435D-A6DC-81A6A024940E}"},
-    {L"IqzCategory", L"{D1364D10-980D-49FC-A200-2287E10C6FD9}"},
-    {L"IqzFormat", L"{A10B1385-7251-4C91-8F5E-A29A1F9E0F7E}"},
-};
-
+/// Those of the type library.
+std::vector<Interface> ReadInterfaces() {
+    ComPtr<ITypeLib> library;
+    ThrowIfFailed(LoadTypeLibEx(L"qzVandraExt.dll", REGKIND_NONE, &library));
+    std::vector<Interface> found;
+    for (UINT index = 0; index < library->GetTypeInfoCount(); ++index) {
+        ComPtr<ITypeInfo> type;
+        _bstr_t name;
+        TYPEATTR* attributes = nullptr;
+        wchar_t id[40] = L"";
+        ThrowIfFailed(library->GetTypeInfo(index, &type));
+        ThrowIfFailed(
+            library->GetDocumentation(static_cast<int>(index), name.GetAddress(), nullptr, nullptr, nullptr));
+        ThrowIfFailed(type->GetTypeAttr(&attributes));
+        StringFromGUID2(attributes->guid, id, 40);
+        if (attributes->typekind == TKIND_DISPATCH)
+            found.push_back({name.GetBSTR(), id, !(attributes->wTypeFlags & TYPEFLAG_FDUAL)});
+        type->ReleaseTypeAttr(attributes);
+    }
+    return found;
+}
+const std::vector<Interface>& Interfaces() {
+    static const std::vector<Interface> read = ReadInterfaces();
+    return read;
+}
 // Keys that are the module's by their name.
 bool IsOurs(const std::wstring& name) {
     return name == libraryId || name.starts_with(L"Qz") || name.starts_with(L"qz") ||
            std::ranges::any_of(classes, [&](const Class& each) { return name == each.id; }) ||
-           std::ranges::any_of(interfaces, [&](const Interface& each) { return name == each.id; });
+           std::ranges::any_of(Interfaces(), [&](const Interface& each) { return name == each.id; });
 }
 
 // A Classes key as far as registration may touch it: the names of all keys of the containers, and what ours
@@ -134,8 +139,8 @@ RegistryListing ExpectedTypeLibrary(const std::wstring& modulePath) {
     Expect(expected, key + L"\\6.5", L"qzVandraExt 6.5 Type Library");
     expected[key + L"\\6.5\\409"];
     Expect(expected, key + L"\\6.5\\409\\win64", modulePath);
-    for (const Interface& each : interfaces) {
-        const std::wstring interfaceKey = std::wstring(L"Interface\\") + each.id;
+    for (const Interface& each : Interfaces()) {
+        const std::wstring interfaceKey = L"Interface\\" + each.id;
         const wchar_t* const marshaler = each.events ? L"{00020420-0000-0000-C000-000000000046}"
                                                      : L"{00020424-0000-0000-C000-000000000046}";
         Expect(expected, interfaceKey, each.name);

@@ -3,6 +3,8 @@
 #include "tests/properties/object_chain.h"
 #include "tests/support/during_modal.h"
 #include "tests/support/held_keys.h"
+#include "tests/support/menu_answer.h"
+#include "tests/support/sweep.h"
 
 namespace qz {
 namespace {
@@ -55,34 +57,8 @@ class ActionsEditor : public InspectorTest {
     }
     bool Confirms() const { return static_cast<bool>(Value(L"Document", L"AlwaysConfirmAttributeChanges")); }
 
-    /// Opens the menu of new actions and chooses an entry, none with -1.
-    void ChooseNew(int entry, const std::function<void()>& open) {
-        menu_ = {};
-        entry_ = entry;
-        const UINT_PTR timer = SetTimer(nullptr, 0, 30, &OnMenuTimer);
-        open();
-        KillTimer(nullptr, timer);
-    }
-    static void CALLBACK OnMenuTimer(HWND, UINT, UINT_PTR timer, DWORD) {
-        const HWND window = FindWindowW(L"#32768", nullptr);
-        if (!window || !IsWindowVisible(window)) return;
-        KillTimer(nullptr, timer);
-        const HMENU menu = reinterpret_cast<HMENU>(SendMessageW(window, 0x01E1 /* MN_GETHMENU */, 0, 0));
-        GetWindowRect(window, &menuPlace_);
-        for (int i = 0; i < GetMenuItemCount(menu); ++i) {
-            wchar_t text[64] = L"";
-            GetMenuStringW(menu, static_cast<UINT>(i), text, 64, MF_BYPOSITION);
-            menu_ += std::wstring(text) + L" ";
-        }
-        for (int i = 0; i <= entry_; ++i) PostMessageW(window, WM_KEYDOWN, VK_DOWN, 0);
-        PostMessageW(window, WM_KEYDOWN, entry_ >= 0 ? VK_RETURN : VK_ESCAPE, 0);
-    }
-
     const ComPtr<IDispatch> actions[3] = {Create(52, L"A"), Create(46, L"B"), Create(50, L"C")};
     const ComPtr<IDispatch> field = Create(typeField, L"F"), other = Create(typeField, L"G");
-    static inline std::wstring menu_;
-    static inline RECT menuPlace_{};
-    static inline int entry_ = -1;
 };
 
 TEST_F(ActionsEditor, ChangesTheChainByButtonsAndKeys) {
@@ -123,26 +99,30 @@ TEST_F(ActionsEditor, ChangesTheChainByButtonsAndKeys) {
 
 TEST_F(ActionsEditor, AddsWhatTheMenuOffers) {
     const HWND add = Field(QZ_EDITOR_ADD_ACTION);
-    ChooseNew(-1, [&] { Click(add); });
-    EXPECT_EQ(menu_,
-              L"qzObjectTypeActionForm qzObjectTypeActionGoTo qzObjectTypeActionHide "
-              L"qzObjectTypeActionJavaScript ");
+    const auto chooseNew = [](int entry, const std::function<void()>& open) {
+        const MenuAnswer chosen(entry);
+        open();
+    };
+    chooseNew(0, [&] { Click(add); });
+    EXPECT_EQ(MenuAnswer::Offered(),
+              L"qzObjectTypeActionForm|qzObjectTypeActionGoTo|qzObjectTypeActionHide|"
+              L"qzObjectTypeActionJavaScript|");
     RECT button{};
     GetWindowRect(add, &button);
-    EXPECT_EQ(menuPlace_.left, button.left);
-    EXPECT_EQ(menuPlace_.top, button.bottom + 2);
+    EXPECT_EQ(MenuAnswer::Corner().x, button.left);
+    EXPECT_EQ(MenuAnswer::Corner().y, button.bottom + 2);
     EXPECT_EQ(Chain(), L"A B C ");
-    ChooseNew(0, [&] { Click(add); });
-    ChooseNew(1, [&] { Press(List(), VK_INSERT); });
-    ChooseNew(2, [&] { Press(List(), VK_F4); });
-    ChooseNew(3, [&] { Click(add); });
+    chooseNew(1, [&] { Click(add); });
+    chooseNew(2, [&] { Press(List(), VK_INSERT); });
+    chooseNew(3, [&] { Press(List(), VK_F4); });
+    chooseNew(4, [&] { Click(add); });
     EXPECT_EQ(Chain(), L"A B C myNewFormAction myNewGotoAction myNewHideAction myNewJSAction ");
     EXPECT_EQ(TextOf(Field(QZ_EDITOR_TEXT)), L"myNewJSAction (qzObjectTypeActionJavaScript)");
     Press(List(), VK_ESCAPE);
     EXPECT_EQ(Chain(), L"A B C ");
     host->FailOperation(_bstr_t(L"CreateObject"), E_ACCESSDENIED);
     const MessageBoxAnswer ok(IDOK);
-    ChooseNew(0, [&] { Click(add); });
+    chooseNew(1, [&] { Click(add); });
     EXPECT_TRUE(ok.Shown());
     EXPECT_EQ(Shown(), L"[A] Second C ");
 }
@@ -190,10 +170,8 @@ TEST_F(ActionsEditor, EditsAnActionInADialogOfItsOwn) {
 
 TEST_F(ActionsEditor, ConfirmationIsHeldOffAsLongAsAnyIsOpen) {
     EXPECT_FALSE(Confirms());
-    ComPtr<IClassFactory> factory;
     ComPtr<IqzPropCtrl> second;
-    ASSERT_EQ(module.GetClassObject(CLSID_qzPropCtrl, IID_PPV_ARGS(&factory)), S_OK);
-    ASSERT_EQ(factory->CreateInstance(nullptr, IID_PPV_ARGS(&second)), S_OK);
+    module.Make(CLSID_qzPropCtrl, second);
     {
         const PaneWindow another(second.Get(), {320, 480});
         ASSERT_EQ(second->put_VandraX(host.Get()), S_OK);
@@ -292,27 +270,26 @@ TEST_F(ActionsEditor, AnyTypeOfValueOpens) {
 }
 
 TEST_F(ActionsEditor, TheHostFailsAtAnyOneCall) {
-    long call = 1;
-    for (bool failed = true; failed; ++call) {
-        ASSERT_LT(call, 600);
+    const auto prepare = [this] {
         pane->put_Object(nullptr);
         SetValue(L"Objects[F]", L"NextActions", ObjectArray(actions));
+    };
+    const auto step = [this] {
         const MessageBoxAnswer ok(IDOK);
-        const long before = CallCount(host.Get(), L"");
-        host->FailCall(call, E_FAIL);
         pane->put_Object(field.Get());
         if (Choose(L"NextActions") && Editor()) {
             ChooseAction(1);
             Click(Field(QZ_EDITOR_MOVE_ACTION_UP));
         }
         Choose(L"Name");
-        failed = CallCount(host.Get(), L"") - before >= call;
-        host->ClearFaults();
-        EXPECT_TRUE(Confirms()) << "call " << call;
+        return S_OK;
+    };
+    const auto check = [this](long, HRESULT) {
+        EXPECT_TRUE(Confirms());
         const std::wstring chain = Chain();
         EXPECT_TRUE(chain == L"A B C " || chain == L"B A C ") << chain;
-    }
-    EXPECT_GT(call, 60);
+    };
+    EXPECT_GT(FailEachCall(host.Get(), {prepare, step, check}), 60);
 }
 
 }  // namespace

@@ -1,5 +1,4 @@
 #include "properties/model/category_tabs.h"
-#include "properties/model/confirmation.h"
 #include "properties/model/inspector_memory.h"
 #include "properties/model/selection_caption.h"
 
@@ -35,13 +34,6 @@ TEST(AttributeTabs, AllShowsWhatNoTabShowsButNothingHidden) {
     EXPECT_TRUE(IsReadOnly({L'E', 2}) && !IsReadOnly({L'E', 1}));
 }
 
-TEST(AttributeTabs, LabelsOutOfTheSequenceOfIds) {
-    EXPECT_EQ(TextIdOfTab(L'T'), 333U);
-    EXPECT_EQ(TextIdOfTab(L'I'), 343U);
-    EXPECT_EQ(TextIdOfTab(L'N'), 344U);
-    EXPECT_EQ(TextIdOfTab(L'Z'), 0U);
-}
-
 TEST(AttributeTabs, TheRememberedOneIsSelectedOrTheLast) {
     const wchar_t tabs[] = {L'T', L'E', L'0'};
     EXPECT_EQ(TabToSelect(tabs, L'E'), 1U);
@@ -74,14 +66,6 @@ TEST(SelectionCaption, NamesOneObjectOnly) {
     EXPECT_EQ(SelectionCaption(true, 1, L"a"), L"a");
     EXPECT_EQ(SelectionCaption(true, 0, L""), L"") << "nothing is selected: the name as it is";
     EXPECT_EQ(SelectionCaption(true, std::nullopt, L"a"), L"a");
-}
-
-TEST(Confirmation, OnlyOfChangesToAnObjectThatIsStillThere) {
-    EXPECT_TRUE(MustConfirm(true, true, true, true));
-    EXPECT_TRUE(MustConfirm(false, false, true, true)) << "an object without path cannot be looked up";
-    EXPECT_FALSE(MustConfirm(true, false, true, true));
-    EXPECT_FALSE(MustConfirm(true, true, false, true));
-    EXPECT_FALSE(MustConfirm(true, true, true, false));
 }
 
 }  // namespace

@@ -145,10 +145,8 @@ TEST_F(ColorEditor, TheClassOfTheBoxesStaysAsLongAsThereIsAnEditor) {
     WNDCLASSW known{};
     ASSERT_TRUE(GetClassInfoW(library, L"QZ_COLOR_BOX", &known));
     {
-        ComPtr<IClassFactory> factory;
-        ThrowIfFailed(module.GetClassObject(CLSID_qzPropCtrl, IID_PPV_ARGS(&factory)));
         ComPtr<IqzPropCtrl> second;
-        ThrowIfFailed(factory->CreateInstance(nullptr, IID_PPV_ARGS(&second)));
+        module.Make(CLSID_qzPropCtrl, second);
         const PaneWindow other(second.Get(), {320, 480}, {400, 0});
         ThrowIfFailed(second->put_VandraX(host.Get()));
         ThrowIfFailed(second->put_Object(field.Get()));  // the attribute chosen last opens by itself

@@ -48,11 +48,5 @@ TEST(ChoiceLayout, ScrollsNoMoreThanNeeded) {
     EXPECT_EQ(ScrolledTo(10, 20, 300, 100), 20) << "too high: its top";
 }
 
-TEST(PictureFilter, EndsEachPartWithANull) {
-    const std::wstring patterns = L"*.bmp;*.jpg;*.jpeg;*.tif;*.tiff;*.png;*.gif";
-    const std::wstring null(1, L'\0');
-    EXPECT_EQ(PictureFilter(L"Bilder"), L"Bilder (" + patterns + L")" + null + patterns + null + null);
-}
-
 }  // namespace
 }  // namespace qz

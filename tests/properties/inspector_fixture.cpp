@@ -3,9 +3,7 @@
 namespace qz {
 
 InspectorTest::InspectorTest() {
-    ComPtr<IClassFactory> factory;
-    ThrowIfFailed(module.GetClassObject(CLSID_qzPropCtrl, IID_PPV_ARGS(&factory)));
-    ThrowIfFailed(factory->CreateInstance(nullptr, IID_PPV_ARGS(&pane)));
+    module.Make(CLSID_qzPropCtrl, pane);
     events->Connect(pane.Get(), DIID__IqzPropCtrlEvents);
 }
 

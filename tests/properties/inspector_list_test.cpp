@@ -35,21 +35,6 @@ TEST_F(InspectorTest, TabsStandInTheOrderOfTheAttributes) {
     EXPECT_EQ(ChosenName(), L"");
 }
 
-TEST_F(InspectorTest, TruthIsWrittenAndTakenBackByEscape) {
-    const auto field = Create(typeField, L"F");
-    Open();
-    Inspect(field);
-    ASSERT_TRUE(Choose(L"Locked"));
-    ASSERT_NE(Editor(), nullptr);
-    EXPECT_EQ(TextOf(Field(QZ_EDITOR_CHECK)), L"&True");
-    EXPECT_EQ(SendMessageW(Field(QZ_EDITOR_CHECK), BM_GETCHECK, 0, 0), BST_UNCHECKED);
-    Click(Field(QZ_EDITOR_CHECK));
-    EXPECT_TRUE(static_cast<bool>(Value(L"Objects[F]", L"Locked")));
-    Press(Field(QZ_EDITOR_CHECK), VK_ESCAPE);
-    EXPECT_FALSE(static_cast<bool>(Value(L"Objects[F]", L"Locked")));
-    EXPECT_EQ(SendMessageW(Field(QZ_EDITOR_CHECK), BM_GETCHECK, 0, 0), BST_UNCHECKED);
-}
-
 // After any change of size it looks as if everything had been painted anew.
 TEST_F(InspectorTest, ChangesOfSizeLeaveNoOldPixels) {
     Open();

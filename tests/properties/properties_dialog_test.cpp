@@ -13,9 +13,7 @@ class PropertiesDialogTest : public InspectorTest {
   protected:
     PropertiesDialogTest() {
         DeleteTree(HKEY_CURRENT_USER, placeKey);
-        ComPtr<IClassFactory> factory;
-        ThrowIfFailed(module.GetClassObject(CLSID_qzPropertiesDlg, IID_PPV_ARGS(&factory)));
-        ThrowIfFailed(factory->CreateInstance(nullptr, IID_PPV_ARGS(&dialog)));
+        module.Make(CLSID_qzPropertiesDlg, dialog);
         field = Create(typeField, L"F");
         EXPECT_EQ(dialog->put_VandraX(host.Get()), S_OK);
         EXPECT_EQ(dialog->put_Object(field.Get()), S_OK);

@@ -100,21 +100,6 @@ TEST_F(SettingsStoreTest, DamagedValuesLeaveDefaultsAndTheNextWriteMendsThem) {
     }
 }
 
-TEST_F(SettingsStoreTest, LargeValuesAreReadWhole) {
-    zrNUpSettings record;
-    record.SetString(L"Mine:Own", std::wstring(5'000'000, L'x').c_str());
-    EXPECT_TRUE(Store().Write(record).stored);
-    zrNUpSettings read;
-    EXPECT_TRUE(Store().Read(read));
-    EXPECT_EQ(read.Text(), record.Text());
-    for (const std::size_t size : {1023U, 1024U, 1025U}) {
-        const std::string frame = "<r><Dest_NUp:Rows>7</Dest_NUp:Rows></r>";
-        Put({REG_BINARY, Bytes(frame + std::string(size - frame.size(), '\n'))});
-        EXPECT_TRUE(Store().Read(read));
-        EXPECT_EQ(read.rows, 7);
-    }
-}
-
 TEST_F(SettingsStoreTest, ARegistryThatRefusesIsToldAndChangesNothing) {
     PutDebugFile("WriteNUpDlgSettingsToFile=" + (folder_ / "copy").string());
     place_.root = reinterpret_cast<HKEY>(std::intptr_t{0x7ABC});  // no key at all
@@ -191,26 +176,6 @@ TEST_F(SettingsStoreTest, ACopyThatFailsIsTold) {
     if (!std::filesystem::exists("Z:\\dev")) return;
     PutDebugFile("WriteNUpDlgSettingsToFile=Z:\\dev\\full");  // a full disk as Wine shows it
     EXPECT_EQ(Store().Write(record).copy, DebugCopy::Failed);
-}
-
-TEST_F(SettingsStoreTest, WritersAtTheSameTimeLeaveOneWholeRecord) {
-    const auto write = [this](int rows, std::size_t size) {
-        zrNUpSettings record;
-        record.SetInt(L"Dest_NUp:Rows", rows);
-        record.SetString(L"Mine:Own", std::wstring(size, L'x').c_str());
-        for (int i = 0; i < 200; ++i) EXPECT_TRUE(Store().Write(record).stored);
-    };
-    std::thread few(write, 2, 10);
-    std::thread many(write, 3, 30'000);
-    for (int i = 0; i < 200; ++i) {
-        zrNUpSettings record;
-        ASSERT_TRUE(Store().Read(record));
-        const std::size_t size = record.GetString(L"Mine:Own").value_or(L"").size();
-        EXPECT_TRUE((record.rows == 1 && size == 0) || (record.rows == 2 && size == 10) ||
-                    (record.rows == 3 && size == 30'000));
-    }
-    few.join();
-    many.join();
 }
 
 // The one test that touches the place where users' settings are: it puts back what was there.

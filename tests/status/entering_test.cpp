@@ -1,5 +1,6 @@
 // What the user types and presses.
 #include "status_fixture.h"
+#include "tests/support/menu_answer.h"
 
 #include <algorithm>
 
@@ -204,14 +205,7 @@ TEST_F(StatusEntering, AFailingHostLeavesTheField) {
 }
 
 TEST_F(StatusEntering, UnitFromTheMenu) {
-    SetCursorPos(600, 500);  // not on the menu, where it would choose too
-    SetTimer(nullptr, 0, 50, [](HWND, UINT, UINT_PTR timer, DWORD) {
-        const HWND menu = FindWindowW(L"#32768", nullptr);
-        if (!menu) return;
-        KillTimer(nullptr, timer);
-        PostMessageW(menu, WM_KEYDOWN, VK_END, 1);
-        PostMessageW(menu, WM_KEYDOWN, VK_RETURN, 1);
-    });
+    const MenuAnswer inches(3);
     RECT place{};
     GetWindowRect(Field(PageSize), &place);
     POINT point{place.left + 5, place.top + 5};

@@ -135,17 +135,6 @@ TEST_F(StatusFields, NarrowBarsDropFieldsAndTheFocusWithThem) {
     EXPECT_TRUE(Visible(LastPage));
 }
 
-TEST_F(StatusFields, SpeakTheHostsLanguage) {
-    const auto host = MakeHost(1);
-    host->put_LanguageId(0x0C07);  // German in Austria
-    Show(host.Get());
-    EXPECT_EQ(Text(PageSize), L"Seite: 12240 x 15840");
-    EXPECT_EQ(Text(NextPage), L"Nächste Seite");
-    wchar_t title[100];
-    GetWindowTextW(window->Window(), title, static_cast<int>(std::size(title)));
-    EXPECT_STREQ(title, L"Statusleiste");
-}
-
 TEST_F(StatusFields, PropertiesArePersistent) {
     bar->put_UnitOfMeasure(qzStatusCtrlInches);
     bar->put_PageSizeVisible(VARIANT_FALSE);

@@ -22,11 +22,7 @@ class StatusTest : public ::testing::Test {
 
     static SIZE Wide() { return {Scaled(900), Scaled(26)}; }
 
-    StatusTest() {
-        ComPtr<IClassFactory> factory;
-        ThrowIfFailed(module.GetClassObject(CLSID_qzStatusCtrl, IID_PPV_ARGS(&factory)));
-        ThrowIfFailed(factory->CreateInstance(nullptr, IID_PPV_ARGS(&bar)));
-    }
+    StatusTest() { module.Make(CLSID_qzStatusCtrl, bar); }
     ~StatusTest() override {
         window.reset();
         bar.Reset();

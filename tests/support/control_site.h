@@ -3,6 +3,7 @@
 #pragma once
 
 #include "com/object.h"
+#include "tests/support/silent_dispatch.h"
 
 #include <windows.h>
 #include <comdef.h>
@@ -21,7 +22,7 @@ namespace qz {
 /// member's name, then answered with what the test put into `answers` under that name, otherwise with S_OK.
 class ControlSite final
     : public Object<ControlSite, IOleClientSite, Chain<IOleInPlaceSite, IOleWindow>, IOleControlSite,
-                    IDispatch, Chain<IOleInPlaceFrame, IOleInPlaceUIWindow>, IPropertyNotifySink,
+                    SilentDispatch, Chain<IOleInPlaceFrame, IOleInPlaceUIWindow>, IPropertyNotifySink,
                     IAdviseSink> {
   public:
     explicit ControlSite(HWND window) : window_(window) {}
@@ -78,9 +79,6 @@ class ControlSite final
     STDMETHODIMP ShowPropertyFrame() override { return E_NOTIMPL; }
 
     // IDispatch: ambient properties
-    STDMETHODIMP GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
-    STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
-    STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
     STDMETHODIMP Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS*, VARIANT* result, EXCEPINFO*,
                         UINT*) override;
 

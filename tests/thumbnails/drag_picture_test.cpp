@@ -44,11 +44,6 @@ TEST_F(DragPictureTest, SheetsWithAnAreaLieOverEachOther) {
     EXPECT_EQ(At(picture, 30, 0), opaqueWhite);
 }
 
-TEST_F(DragPictureTest, WithoutAnAreaThereIsNone) {
-    EXPECT_FALSE(Make({1}).pixels);
-    EXPECT_FALSE(Make({}).pixels);
-}
-
 TEST_F(DragPictureTest, OfManyPagesOnlySomeAreDrawn) {
     model.SetRecords(std::vector<ThumbnailRecord>(200, {.width = 20, .height = 30}));
     host->NewDocument(200, 3000, 4400);

@@ -154,11 +154,6 @@ TEST_F(Dragging, MovesWithinTheDocument) {
     EXPECT_EQ(flag, 1);
 }
 
-TEST_F(Dragging, ControlCopies) {
-    Drag(1, 4, VK_CONTROL);
-    EXPECT_EQ(Order(), (PageList{0, 1, 2, 3, 0, 4, 5, 6, 7}));
-}
-
 TEST_F(Dragging, StartsBeyondEightPixels) {
     const POINT from = ScreenPointOn(3);
     Drag(from, {from.x + 7, from.y});  // and one more in the end
@@ -231,22 +226,6 @@ TEST_F(Dragging, ShowsTheTargetAndScrollsAtTheEdge) {
     pane->ScrollPageThumbIntoView(1);
     PumpMessages();
     EXPECT_EQ(PixelAt(paper.x, paper.y), before) << "the mark goes with the drag";
-}
-
-TEST_F(Dragging, EscapeCancels) {
-    const POINT from = ScreenPointOn(2);
-    const POINT to = ScreenPointOn(5);
-    While([&] {
-        Hands::MoveTo(from);
-        Hands::Button(MOUSEEVENTF_LEFTDOWN);
-        Hands::Glide(from, to);
-        Hands::Key(VK_ESCAPE, true);
-        Hands::Key(VK_ESCAPE, false);
-        Hands::Button(MOUSEEVENTF_LEFTUP);
-    });
-    EXPECT_EQ(Order(), (PageList{0, 1, 2, 3, 4, 5, 6, 7}));
-    Drag(2, 5);
-    EXPECT_EQ(Order(), (PageList{0, 2, 3, 4, 1, 5, 6, 7})) << "the next drag works";
 }
 
 TEST_F(Dragging, ToAnotherProgram) {

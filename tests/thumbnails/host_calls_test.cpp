@@ -72,16 +72,5 @@ TEST_F(HostCalls, PagesOfAnySizeAndType) {
     }
 }
 
-TEST_F(HostCalls, EmptyDocument) {
-    Activate();
-    const auto host = MakeHost(0);
-    EXPECT_EQ(pane->Initialize(host.Get()), S_OK);
-    PumpMessages();
-    EXPECT_EQ(pane->ScrollPageThumbIntoView(1), E_FAIL);
-    EXPECT_EQ(pane->ScrollPageThumbIntoView(0), E_FAIL);
-    SendMessageW(PaneWindow(), WM_VSCROLL, SB_LINEDOWN, 0);
-    EXPECT_EQ(ScrollPosition(), 0);
-}
-
 }  // namespace
 }  // namespace qz

@@ -1,7 +1,7 @@
 // A host that fails at any one call: for every call of a step there is a run in which just that call fails.
 #include "pane_fixture.h"
 
-#include "tests/support/interrupted_host.h"
+#include "tests/support/sweep.h"
 
 #include <functional>
 
@@ -12,7 +12,6 @@ class HostFailsMidway : public PaneTest {
   protected:
     /// What must hold after any step, failed or not.
     void CheckNothingIsLost(IReferenceHost* host, long number) {
-        host->ClearFaults();
         long autoRefresh = 0;
         long page = 0;
         host->GetAutoRefresh(&autoRefresh);
@@ -36,30 +35,12 @@ class HostFailsMidway : public PaneTest {
         return pixels;
     }
 
-    /// Runs `step` with its first call failing, then its second, ... until one run meets no fault.
     void Sweep(IReferenceHost* host, const std::function<HRESULT()>& step) {
-        long failures = 0;
-        for (long number = 1; number < 500; ++number) {
-            SetErrorInfo(0, nullptr);
-            host->ClearLog();
-            host->FailCall(number, planned);
-            const HRESULT result = step();
-            const bool reached = CallCount(host, L"") >= number;
-            if (FAILED(result)) {
-                EXPECT_EQ(result, planned);
-                EXPECT_NE(TakeErrorText(), L"") << "failing call " << number;
-                ++failures;
-            }
+        const auto check = [&](long call, HRESULT) {
             PumpMessages();
-            CheckNothingIsLost(host, number);
-            if (!reached) {
-                EXPECT_EQ(result, S_OK);
-                EXPECT_GT(number, 5) << "the step made hardly any call";
-                EXPECT_GT(failures, 0);
-                return;
-            }
-        }
-        ADD_FAILURE() << "the step never ended";
+            CheckNothingIsLost(host, call);
+        };
+        EXPECT_GT(FailEachCall(host, {.step = step, .check = check}), 5);
     }
 };
 
@@ -91,15 +72,18 @@ TEST_F(HostFailsMidway, HostChange) {
     const auto host = MakeHost(4);
     host->SetCurrentPage(2);
     ASSERT_EQ(pane->Initialize(host.Get()), S_OK);
-    for (long number = 1; number < 60; ++number) {
-        host->FailCall(number, planned);
-        host->RaiseChange(0x80);
-        PumpMessages();
-        CheckNothingIsLost(host.Get(), number);
-        // The next change finds the pane in order again.
-        host->RaiseChange(0x80);
-        EXPECT_EQ(pane->ScrollPageThumbIntoView(4), S_OK) << "after failing call " << number;
-    }
+    FailEachCall(host.Get(), {.step =
+                                  [&] {
+                                      host->RaiseChange(0x80);
+                                      PumpMessages();
+                                      return S_OK;
+                                  },
+                              .check =
+                                  [&](long call, HRESULT) {
+                                      CheckNothingIsLost(host.Get(), call);
+                                      host->RaiseChange(0x80);
+                                      EXPECT_EQ(pane->ScrollPageThumbIntoView(4), S_OK);
+                                  }});
 }
 
 TEST_F(HostFailsMidway, AnotherHostIsAttachedInsideAnyOneCall) {

@@ -183,36 +183,6 @@ class Hand {
     std::thread thread_;
 };
 
-TEST_F(PageDragTest, ADropKnowsTheDragOfItsOwnDocument) {
-    const auto other = MakeHost(1);
-    HRESULT nested = S_OK;
-    listener->whenDropped = [&](IDataObject* data) -> DWORD {
-        EXPECT_TRUE(OffersPages(data));
-        EXPECT_EQ(CurrentPageDragOf(other.Get()), nullptr);
-        EXPECT_EQ(CurrentPageDragOf(nullptr), nullptr);
-        nested = CodeOf([&] { DragPages(host.Get(), {1}, DROPEFFECT_MOVE, {}); });
-        PageDrag* const drag = CurrentPageDragOf(host.Get());
-        if (!drag) return DROPEFFECT_NONE;
-        EXPECT_EQ(drag->pages, Pages{2});
-        drag->finishedByDrop = true;
-        return DROPEFFECT_MOVE;
-    };
-    const DragPicture picture{DibSection(20, 20), {10, 10}};
-    PageDragResult result;
-    {
-        const Hand hand(OnScreen(20, 20), OnScreen(100, 120));
-        ASSERT_TRUE(AwaitPress());
-        result = DragPages(host.Get(), {2}, DROPEFFECT_COPY | DROPEFFECT_MOVE, picture);
-    }
-    ASSERT_FALSE(listener->told.empty());
-    EXPECT_EQ(listener->told.back(), L"drop 100,120");
-    EXPECT_EQ(nested, HRESULT_FROM_WIN32(ERROR_BUSY));
-    EXPECT_EQ(result.effect, DWORD{DROPEFFECT_MOVE});
-    EXPECT_TRUE(result.finishedByDrop);
-    EXPECT_FALSE(result.SourceDeletes());
-    EXPECT_EQ(CurrentPageDrag(), nullptr);
-}
-
 /// Draws pictures of drags as the system's helper does, which no Wine has: as the source's side it keeps the
 /// bitmap.
 class PictureHelper final : public Object<PictureHelper, IDragSourceHelper, IDropTargetHelper> {
@@ -294,22 +264,6 @@ TEST_F(PageDragTest, TheSystemKeepsTheBitmapThatItTakes) {
         const SelectScope selected(memory.Get(), helper->image.hbmpDragImage);
         EXPECT_EQ(GetPixel(memory.Get(), 19, 29), RGB(0, 0, 255)) << "still there";
     }
-}
-
-TEST_F(PageDragTest, ASecondButtonCancelsTheDrag) {
-    const ULONG before = ReferencesOf(host.Get());
-    PageDragResult result{.effect = DROPEFFECT_MOVE, .finishedByDrop = true};
-    {
-        const Hand hand(OnScreen(20, 20), OnScreen(100, 120), MOUSEEVENTF_RIGHTDOWN);
-        ASSERT_TRUE(AwaitPress());
-        result = DragPages(host.Get(), {2}, DROPEFFECT_COPY | DROPEFFECT_MOVE, {});
-    }
-    mouse_event(MOUSEEVENTF_RIGHTUP, 0, 0, 0, 0);
-    ASSERT_FALSE(listener->told.empty());
-    EXPECT_EQ(listener->told.back(), L"leave");
-    EXPECT_EQ(result.effect, DWORD{DROPEFFECT_NONE});
-    EXPECT_FALSE(result.finishedByDrop);
-    EXPECT_EQ(ReferencesOf(host.Get()), before);
 }
 
 }  // namespace

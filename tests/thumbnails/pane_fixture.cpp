@@ -11,10 +11,8 @@ PaneTest::~PaneTest() {
 }
 
 ComPtr<IqzThumbnailCtrl> PaneTest::MakePane() const {
-    ComPtr<IClassFactory> factory;
     ComPtr<IqzThumbnailCtrl> made;
-    ThrowIfFailed(module.GetClassObject(CLSID_qzThumbnailCtrl, IID_PPV_ARGS(&factory)));
-    ThrowIfFailed(factory->CreateInstance(nullptr, IID_PPV_ARGS(&made)));
+    module.Make(CLSID_qzThumbnailCtrl, made);
     return made;
 }
 

@@ -55,18 +55,6 @@ TEST_F(Scrolling, WheelCountsWholeNotches) {
     EXPECT_EQ(ScrollPosition(), static_cast<long>(100 * lines));
 }
 
-TEST_F(Scrolling, IntoView) {
-    EXPECT_EQ(pane->ScrollPageThumbIntoView(8), S_OK);  // row 3: its gap ends below the view
-    EXPECT_EQ(ScrollPosition(), 4 * 120 - paneSize.cy);
-    EXPECT_EQ(pane->ScrollPageThumbIntoView(6), S_OK);
-    EXPECT_EQ(ScrollPosition(), 4 * 120 - paneSize.cy);
-    EXPECT_EQ(pane->ScrollPageThumbIntoView(1), S_OK);
-    EXPECT_EQ(ScrollPosition(), 0);
-    EXPECT_EQ(pane->ScrollPageThumbIntoView(0), E_FAIL);
-    EXPECT_EQ(pane->ScrollPageThumbIntoView(101), E_FAIL);
-    EXPECT_NE(TakeErrorText(), L"");
-}
-
 TEST_F(Scrolling, InitializeStartsAtTheTop) {
     Scroll(SB_PAGEDOWN);
     ASSERT_EQ(pane->Initialize(host_.Get()), S_OK);

@@ -30,15 +30,6 @@ TEST_F(Selecting, ClicksSelectAndTell) {
     EXPECT_EQ(TakeEvents(), Events{});
 }
 
-TEST_F(Selecting, CurrentPageIsSetOnlyWhenItDiffers) {
-    host->SetCurrentPage(2);
-    host->ClearLog();
-    Click(2);
-    EXPECT_EQ(CallCount(host.Get(), L"SetCurrentPage"), 0);
-    Click(4);
-    EXPECT_EQ(CurrentPage(), 4);
-}
-
 TEST_F(Selecting, FramesShowSelectedAndCurrent) {
     Click(4);
     PumpMessages();
@@ -248,16 +239,6 @@ TEST_F(Selecting, ListenerMayReleaseThePane) {
     Click(2);
     EXPECT_FALSE(pane);
     EXPECT_EQ(TakeEvents(), (Events{"1:2,&1", "3:2"}));
-}
-
-TEST_F(Selecting, FrozenEventsAreDropped) {
-    ComPtr<IOleControl> control;
-    ASSERT_EQ(pane.As(&control), S_OK);
-    control->FreezeEvents(TRUE);
-    Click(2);
-    control->FreezeEvents(FALSE);
-    EXPECT_EQ(TakeEvents(), Events{});
-    EXPECT_EQ(Selected(), (PageList{2}));
 }
 
 }  // namespace

@@ -113,14 +113,6 @@ TEST(Activation, OutlivesItsParentWindow) {
     EXPECT_EQ(GetParent(container.control->WindowHandle()), other.window);
 }
 
-TEST(Activation, AnotherSiteEndsTheOldActivation) {
-    Container container;
-    ASSERT_EQ(container.Do(OLEIVERB_UIACTIVATE), S_OK);
-    EXPECT_EQ(container.control->SetClientSite(nullptr), S_OK);
-    EXPECT_EQ(container.site->Count("OnInPlaceDeactivate"), 1);
-    EXPECT_EQ(container.control->WindowHandle(), nullptr);
-}
-
 TEST(Closing, SavesAsAskedAndTellsSinks) {
     const struct {
         DWORD option;

@@ -47,14 +47,6 @@ TEST_F(SystemContainer, PaintsAndFollowsItsSize) {
     EXPECT_EQ(control->ClientSize().cy, client.bottom);
 }
 
-TEST_F(SystemContainer, IsFoundFromItsWindow) {
-    using Get = HRESULT(WINAPI*)(HWND window, IUnknown * *control);
-    ComPtr<IUnknown> found;
-    ASSERT_EQ(SystemContainerEntry<Get>("AtlAxGetControl")(window, &found), S_OK);
-    EXPECT_EQ(found.Get(), control->Identity());
-    EXPECT_TRUE(control->UserMode());
-}
-
 TEST_F(SystemContainer, LetsGoWhenItsWindowGoes) {
     const HWND own = control->WindowHandle();
     DestroyWindow(window);

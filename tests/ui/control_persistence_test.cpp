@@ -101,18 +101,6 @@ TEST(StreamPersistence, NewControlIsDirtyAndLoadedOneIsNotNew) {
     ExpectChanged(*control.Get());
 }
 
-TEST(StreamPersistence, EveryTruncationIsAnErrorThatChangesNothing) {
-    const std::vector<std::byte> image = ImageOf(*Changed().Get());
-    const auto control = MakeObject<TestControl>();
-    for (size_t length = 0; length < image.size(); ++length) {
-        SetErrorInfo(0, nullptr);
-        EXPECT_TRUE(FAILED(control->Load(StreamOf(std::span(image).first(length)).Get()))) << length;
-        EXPECT_FALSE(TakeErrorText().empty()) << length;
-    }
-    ExpectInitial(*control.Get());
-    EXPECT_EQ(control->IsDirty(), S_FALSE);
-}
-
 TEST(StreamPersistence, MalformedContentIsAnErrorThatChangesNothing) {
     using Properties = std::vector<StoredProperty>;
     const std::int64_t one = 1;
@@ -191,13 +179,6 @@ TEST(BagPersistence, ComesBack) {
     ASSERT_EQ(back->Load(bag.Get(), bag.Get()), S_OK);
     ExpectChanged(*back.Get());
     EXPECT_TRUE(bag->errors.empty());
-}
-
-TEST(BagPersistence, EmptyBagKeepsTheDefaults) {
-    const auto bag = MakeObject<Bag>();
-    const auto control = MakeObject<TestControl>();
-    ASSERT_EQ(control->Load(bag.Get(), nullptr), S_OK);
-    ExpectInitial(*control.Get());
 }
 
 TEST(BagPersistence, ConvertsWhatItCan) {

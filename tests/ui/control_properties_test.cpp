@@ -198,20 +198,5 @@ TEST(SelfDescription, NullSlotsAreRefused) {
     EXPECT_EQ(control->Unadvise(7), OLE_E_NOCONNECTION);
 }
 
-TEST(SelfDescription, AnswersForEveryInterfaceWithOneIdentity) {
-    const auto control = MakeObject<TestControl>();
-    ComPtr<IUnknown> identity;
-    ASSERT_EQ(control->QueryInterface(IID_PPV_ARGS(&identity)), S_OK);
-    for (const IID& iid :
-         {IID_IOleObject, IID_IOleInPlaceObject, IID_IOleInPlaceActiveObject, IID_IOleWindow, IID_IOleControl,
-          IID_IViewObject, IID_IViewObject2, IID_IPersist, IID_IPersistStreamInit, IID_IPersistPropertyBag}) {
-        ComPtr<IUnknown> found;
-        ComPtr<IUnknown> back;
-        ASSERT_EQ(control->QueryInterface(iid, reinterpret_cast<void**>(found.GetAddressOf())), S_OK);
-        ASSERT_EQ(found.As(&back), S_OK);
-        EXPECT_EQ(back.Get(), identity.Get());
-    }
-}
-
 }  // namespace
 }  // namespace qz

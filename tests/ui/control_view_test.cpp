@@ -98,27 +98,6 @@ TEST(View, DrawsIntoAnOldStyleMetafile) {
     ExpectPicture(canvas);
 }
 
-TEST(View, DrawsIntoAnEnhancedMetafile) {
-    const auto control = MakeObject<TestControl>();
-    const WindowDc screen(nullptr);
-    const auto hundredths = [&](int pixels, int millimetres, int resolution) {
-        return MulDiv(pixels, GetDeviceCaps(screen.Get(), millimetres) * 100,
-                      GetDeviceCaps(screen.Get(), resolution));
-    };
-    const RECT frame{0, 0, hundredths(100, HORZSIZE, HORZRES), hundredths(100, VERTSIZE, VERTRES)};
-    const HDC recorder = CreateEnhMetaFileW(screen.Get(), nullptr, &frame, nullptr);
-    ASSERT_TRUE(recorder);
-    EXPECT_EQ(DrawTo(*control.Get(), recorder, {0, 0, 100, 100}), S_OK);
-    const HENHMETAFILE metafile = CloseEnhMetaFile(recorder);
-    const Canvas canvas;
-    const RECT place{50, 60, 150, 160};
-    EXPECT_TRUE(PlayEnhMetaFile(canvas.dc.Get(), metafile, &place));
-    DeleteEnhMetaFile(metafile);
-    EXPECT_EQ(canvas.At(60, 70), red);
-    EXPECT_EQ(canvas.At(140, 150), white);
-    EXPECT_EQ(canvas.At(40, 70), untouched);
-}
-
 BOOL STDMETHODCALLTYPE Stop(ULONG_PTR) { return FALSE; }
 
 TEST(View, RefusesWhatItCannotDraw) {

@@ -24,10 +24,8 @@ void ShowPane(const LoadedModule& module) {
     const HWND window = CreateWindowExW(0, L"STATIC", L"", WS_POPUP | WS_VISIBLE, 0, 0, 100, 100, nullptr,
                                         nullptr, nullptr, nullptr);
     const auto site = MakeObject<ControlSite>(window);
-    ComPtr<IClassFactory> factory;
     ComPtr<IOleObject> pane;
-    ASSERT_EQ(module.GetClassObject(CLSID_qzThumbnailCtrl, IID_PPV_ARGS(&factory)), S_OK);
-    ASSERT_EQ(factory->CreateInstance(nullptr, IID_PPV_ARGS(&pane)), S_OK);
+    module.Make(CLSID_qzThumbnailCtrl, pane);
     ASSERT_EQ(pane->SetClientSite(site->Client()), S_OK);
     EXPECT_EQ(pane->DoVerb(OLEIVERB_UIACTIVATE, nullptr, site->Client(), 0, window, &site->position), S_OK);
     EXPECT_NE(FindWindowExW(window, nullptr, className, nullptr), nullptr);

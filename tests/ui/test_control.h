@@ -5,6 +5,7 @@
 #include "tests/support/error_text.h"
 #include "tests/support/pane_window.h"
 #include "ui/control.h"
+#include "tests/support/silent_dispatch.h"
 
 #include <functional>
 #include <vector>
@@ -16,7 +17,7 @@ inline constexpr CLSID testControlId = {
 
 /// Three properties: Count (a long up to 1000), Caption, and BackColor. Paints its upper left
 /// quarter red, the rest in BackColor. `living` counts the instances.
-class TestControl final : public Object<TestControl, Control, IDispatch, ConnectionPointContainer> {
+class TestControl final : public Object<TestControl, Control, SilentDispatch, ConnectionPointContainer> {
   public:
     static constexpr DISPID countId = 1;
     static constexpr DISPID captionId = 2;
@@ -44,9 +45,6 @@ class TestControl final : public Object<TestControl, Control, IDispatch, Connect
     using Control::UserMode;
     using Control::WindowHandle;
 
-    STDMETHODIMP GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
-    STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
-    STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
     STDMETHODIMP Invoke(DISPID id, REFIID, LCID, WORD how, DISPPARAMS* parameters, VARIANT* result,
                         EXCEPINFO*, UINT*) override;
 

@@ -23,9 +23,7 @@ const CLSID& ClassOf(const char* name) {
 class WindowTakenAway : public ::testing::TestWithParam<const char*> {
   protected:
     WindowTakenAway() {
-        ComPtr<IClassFactory> factory;
-        ThrowIfFailed(module.GetClassObject(ClassOf(GetParam()), IID_PPV_ARGS(&factory)));
-        ThrowIfFailed(factory->CreateInstance(nullptr, IID_PPV_ARGS(&pane)));
+        module.Make(ClassOf(GetParam()), pane);
         window.emplace(pane.Get(), SIZE{400, 400});
         ThrowIfFailed(host->CreateObject(21, _bstr_t(L"F"), &object));
         GiveHost();

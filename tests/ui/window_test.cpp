@@ -42,16 +42,6 @@ TEST(WindowBase, IsBoundFromTheFirstMessageToTheLast) {
     EXPECT_NE(window.Handle(), nullptr);
 }
 
-TEST(WindowBase, DestructorTakesTheWindowAlong) {
-    HWND handle = nullptr;
-    {
-        TestWindow window;
-        window.CreatePopup();
-        handle = window.Handle();
-    }
-    EXPECT_FALSE(IsWindow(handle));
-}
-
 TEST(WindowBase, NothingEscapesAHandler) {
     TestWindow window;
     window.CreatePopup();
