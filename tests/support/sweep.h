@@ -23,13 +23,16 @@ inline bool IsSwept(long call) {
     return complete || call == 1 || (call + offset) % stride == 0;
 }
 
+/// How many of the calls a sweep looks at; all of them where a run costs next to nothing.
+enum class Sample { Some, All };
+
 /// `run(call)` disturbs that call and gives the number of calls made. Ends with a run that makes fewer, after
 /// which the last call is looked at too. Gives the number of calls that a run makes which nothing disturbs.
 template <class Run>
-long Sweep(Run&& run) {
+long Sweep(Run&& run, Sample sample = Sample::Some) {
     constexpr long most = 1000;
     for (long call = 1, last = 0; call < most; ++call) {
-        if (!IsSwept(call)) continue;
+        if (sample == Sample::Some && !IsSwept(call)) continue;
         const testing::ScopedTrace trace(__FILE__, __LINE__, "disturbed call " + std::to_string(call));
         const long made = run(call);
         if (made >= call) {
@@ -50,28 +53,31 @@ struct FailureSweep {
     std::function<HRESULT()> step;
     /// After each step, with nothing failing any more; `call` is 0 after the one that nothing disturbed.
     std::function<void(long call, HRESULT result)> check = [](long, HRESULT) {};
+    Sample sample = Sample::Some;
 };
 
 /// Runs a step again and again, each time with another one of its calls to the host failing. The host is
 /// asked for after `prepare`, which may make another one. Gives the number of calls that the step makes.
 inline long FailEachCall(const std::function<IReferenceHost*()>& current, const FailureSweep& sweep) {
-    return Sweep([&](long call) {
-        sweep.prepare();
-        IReferenceHost* const host = current();
-        SetErrorInfo(0, nullptr);
-        const long before = CallCount(host, L"");
-        ThrowIfFailed(host->FailCall(call, planned));
-        const HRESULT result = sweep.step();
-        const long made = CallCount(host, L"") - before;
-        host->ClearFaults();
-        if (FAILED(result)) {
-            EXPECT_EQ(result, planned);
-            EXPECT_NE(TakeErrorText(), L"");
-        }
-        EXPECT_TRUE(SUCCEEDED(result) || made >= call) << "nothing was disturbed";
-        sweep.check(made < call ? 0 : call, result);
-        return made;
-    });
+    return Sweep(
+        [&](long call) {
+            sweep.prepare();
+            IReferenceHost* const host = current();
+            SetErrorInfo(0, nullptr);
+            const long before = CallCount(host, L"");
+            ThrowIfFailed(host->FailCall(call, planned));
+            const HRESULT result = sweep.step();
+            const long made = CallCount(host, L"") - before;
+            host->ClearFaults();
+            if (FAILED(result)) {
+                EXPECT_EQ(result, planned);
+                EXPECT_NE(TakeErrorText(), L"");
+            }
+            EXPECT_TRUE(SUCCEEDED(result) || made >= call) << "nothing was disturbed";
+            sweep.check(made < call ? 0 : call, result);
+            return made;
+        },
+        sweep.sample);
 }
 inline long FailEachCall(IReferenceHost* host, const FailureSweep& sweep) {
     return FailEachCall([host] { return host; }, sweep);
